@@ -1,0 +1,3 @@
+#include "HEXError.h"
+
+HEXError::~HEXError() = default;

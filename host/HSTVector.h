@@ -1,0 +1,6 @@
+#pragma once
+
+#include <vector>
+
+template <typename T>
+using HSTVector = std::vector<T>;

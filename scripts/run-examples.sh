@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# The main job: runs ipconfig-rw on every bundled example and prints what it read.
+# Usage: scripts/run-examples.sh [path/to/ipconfig-rw]
+set -euo pipefail
+
+here=$(cd "$(dirname "$0")/.." && pwd)
+tool=${1:-$here/build/tools/ipconfig-rw}
+examples=$here/examples
+out=$(mktemp -d)
+trap 'rm -rf "$out"' EXIT
+
+# Each example: its format, and whether a round trip must give the same bytes.
+run() {
+  local format=$1 file=$2
+  "$tool" "$format" check "$examples/$file"
+  "$tool" "$format" roundtrip "$examples/$file" "$out/$file"
+  cmp "$examples/$file" "$out/$file"
+}
+
+run metadata metadata.json

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "HCRapidJsonReadWriteUtils.h"
+#include "HUTFile.h"
+#include "HUTFileWriteStream.h"
+#include "ipconfig_readwrite_export.h"
+#include "isl/iostreams.h"
+
+#include <rapidjson/schema.h>
+
+#include <iosfwd>
+#include <memory>
+#include <string>
+
+namespace IPConfig {
+
+using InputFileStream = isl::iostreams::filtering_stream<isl::iostreams::input>;
+using JSchemaDocument = rapidjson::GenericSchemaDocument<JValue>;
+
+// The steps every JSON file other than the constraints file passes through
+// before its first key is read and after its last key is set. Failures of a
+// read go through the HCRapidJsonReadWriteUtils error calls, which throw;
+// whatever the caller filled before stays filled.
+class IPCONFIG_READWRITE_EXPORT JsonFileFrame {
+public:
+  enum class OpenCheck {
+    refuseUnopened,   // a stream that failed to open gives false at once
+    writeRegardless,  // the document is still built and validated; the text is lost
+  };
+
+  // Reading, path form: opens the canonical name of `path` with `opener` and
+  // hands the stream and that name to `readStream`. A missing file, a
+  // directory or a stream that is not good is errorReadingJsonFile.
+  template <typename StreamReader>
+  static auto readFile(const std::string& path, const InputFileStream::Opener& opener,
+                       StreamReader&& readStream)
+  {
+    std::string canonicalName;
+    HUTFile(path).getCanonicalName(canonicalName);
+    InputFileStream in(canonicalName, std::ios_base::binary, opener);
+    const HUTFile file(canonicalName);
+    if (!file.exists() || !file.isFile() || !in.good())
+      HCRapidJsonReadWriteUtils::errorReadingJsonFile(canonicalName);
+    return readStream(static_cast<std::istream&>(in), canonicalName);
+  }
+
+  // Reading, stream form: refuses a stream that is not good, then parses it.
+  static void parse(std::istream& in, const std::string& fileName, JDocument& document);
+
+  // Validates `document` against the schema at `schemaPath`; a violation is
+  // errorParsingJsonFile with the JSON pointer of the offending value.
+  static void validate(const JDocument& document, const std::string& fileName,
+                       const std::string& schemaPath, const InputFileStream::Opener& opener);
+
+  // Opens, parses and compiles a schema, reported under its canonical name.
+  static std::unique_ptr<JSchemaDocument> loadSchema(const std::string& schemaPath,
+                                                     const InputFileStream::Opener& opener);
+
+  // Writing, path form: opens the canonical name of `path` for output, calls
+  // `writeStream`, closes the file; a failed close sets failbit on the stream
+  // and leaves the result as `writeStream` gave it.
+  template <typename StreamWriter>
+  static bool writeFile(const std::string& path, OpenCheck check, StreamWriter&& writeStream)
+  {
+    std::string canonicalName;
+    HUTFile(path).getCanonicalName(canonicalName);
+    HUTFileWriteStream out(canonicalName, std::ios_base::out);
+    if (check == OpenCheck::refuseUnopened && out.fail())
+      return false;
+    const bool written = writeStream(static_cast<std::ostream&>(out));
+    if (!out.rdbuf()->close())
+      out.setstate(std::ios_base::failbit);
+    return written;
+  }
+
+  // Writing, stream form: one walk validates the document and pretty-prints
+  // it. A document that fails its schema sends "@75-585@%s" with `fileKind`,
+  // leaves the text written so far, and gives false.
+  static bool writeValidated(const JDocument& document, std::ostream& out,
+                             const std::string& schemaPath, const char* fileKind);
+
+  // Writing a file that has no schema: false if the writer refused a value.
+  static bool writePretty(const JDocument& document, std::ostream& out);
+};
+
+}  // namespace IPConfig

@@ -1,0 +1,291 @@
+#include "TestSupport.h"
+
+#include "QPEPrjMetaDataModel.h"
+
+#include <cmath>
+#include <sstream>
+
+namespace {
+
+using IPConfig::Frameworks::QPEPrjMetaDataModel;
+using testing_support::MessageLogTest;
+using testing_support::readFile;
+using testing_support::TempDir;
+using testing_support::writeFile;
+namespace fs = boost::filesystem;
+
+std::string written(const QPEPrjMetaDataModel& model)
+{
+  std::ostringstream out;
+  model.writeToJSONStream(out);
+  return out.str();
+}
+
+QPEPrjMetaDataModel readText(const std::string& text, QPEPrjMetaDataModel model = {})
+{
+  std::istringstream in(text);
+  model.readFromJSONStream("meta.json", in);
+  return model;
+}
+
+QPEPrjMetaDataModel throughFile(const QPEPrjMetaDataModel& model)
+{
+  return readText(written(model));
+}
+
+TEST(QPEPrjMetaDataModelTest, WritesEveryTypeInKeyOrderWithExactBytes)
+{
+  QPEPrjMetaDataModel model;
+  model.addStringArrayProperty("f", {"x", "y"});
+  model.addDoubleProperty("e", 1.0);
+  model.addStringProperty("d", "text");
+  model.addULongProperty("c", 4000000000ul);
+  model.addIntegrProperty("b", -2);
+  model.addBooleanProperty("a", true);
+  EXPECT_EQ(written(model), R"({
+  "MetaData": [
+    {
+      "name": "a",
+      "value": true
+    },
+    {
+      "name": "b",
+      "value": -2
+    },
+    {
+      "name": "c",
+      "value": 4000000000
+    },
+    {
+      "name": "d",
+      "value": "text"
+    },
+    {
+      "name": "e",
+      "value": 1.0
+    },
+    {
+      "name": "f",
+      "value": [
+        "x",
+        "y"
+      ]
+    }
+  ]
+})");
+}
+
+TEST(QPEPrjMetaDataModelTest, EmptyModelWritesAnEmptyArray)
+{
+  EXPECT_EQ(written(QPEPrjMetaDataModel()), "{\n  \"MetaData\": []\n}");
+}
+
+TEST(QPEPrjMetaDataModelTest, SecondRoundTripIsByteIdentical)
+{
+  QPEPrjMetaDataModel model;
+  model.setQPEPLIntfID(4294967295u);
+  model.setQPEPLIntfIDString("in_0128true");
+  model.addDoubleProperty("ratio", 0.1);
+  model.addStringArrayProperty("list", {});
+  model.addBooleanProperty("flag", true);
+  const std::string first = written(model);
+  EXPECT_EQ(written(readText(first)), first);
+  EXPECT_EQ(readText(first).getQPEPLIntfID(), 4294967295u);
+}
+
+TEST(QPEPrjMetaDataModelTest, BundledExampleRoundTripsByteForByte)
+{
+  const std::string example = readFile(IPCONFIG_RW_EXAMPLES_DIR "/metadata.json");
+  EXPECT_EQ(written(readText(example)), example);
+}
+
+// The settled quirks of the getters, and what a trip through the file does.
+TEST(QPEPrjMetaDataModelTest, GettersSeeOnlyTheHeldType)
+{
+  QPEPrjMetaDataModel model;
+  model.addBooleanProperty("bool", true);
+  model.addIntegrProperty("int", 7);
+  model.addStringProperty("replaced", "text");
+  model.addIntegrProperty("replaced", 1);
+  EXPECT_FALSE(model.getBooleanProperty("bool")) << "a held bool reads false";
+  EXPECT_TRUE(model.getBooleanProperty("int")) << "a held int other than 0 reads true";
+  EXPECT_FALSE(model.getBooleanProperty("missing"));
+  EXPECT_EQ(model.getStringProperty("replaced"), "");
+  EXPECT_EQ(model.getIntegrProperty("replaced"), 1);
+  EXPECT_EQ(model.getULongProperty("int"), 0ul);
+  EXPECT_EQ(model.getDoubleProperty("int"), 0.0);
+  EXPECT_TRUE(model.getStringArrayProperty("int").empty());
+}
+
+TEST(QPEPrjMetaDataModelTest, FileTripFollowsTheReadingOrderOfTypeTests)
+{
+  QPEPrjMetaDataModel model;
+  model.addULongProperty("smallULong", 5);
+  model.addULongProperty("bigULong", 5000000000ul);
+  model.addDoubleProperty("wholeDouble", 1.0);
+  model.addBooleanProperty("bool", true);
+  const QPEPrjMetaDataModel back = throughFile(model);
+  EXPECT_EQ(back.getULongProperty("smallULong"), 0ul) << "comes back as int";
+  EXPECT_EQ(back.getIntegrProperty("smallULong"), 5);
+  EXPECT_EQ(back.getULongProperty("bigULong"), 5000000000ul);
+  EXPECT_EQ(back.getDoubleProperty("wholeDouble"), 1.0);
+  EXPECT_EQ(back.getIntegrProperty("wholeDouble"), 0);
+  EXPECT_EQ(written(back), written(model));
+}
+
+struct ReadValueCase {
+  const char* value;
+  const char* heldType;  // empty: no property is made
+};
+
+void PrintTo(const ReadValueCase& c, std::ostream* out)
+{
+  *out << c.value;
+}
+
+class ReadValueTest : public ::testing::TestWithParam<ReadValueCase> {};
+
+TEST_P(ReadValueTest, FirstMatchingTestDecidesTheHeldType)
+{
+  const QPEPrjMetaDataModel model = readText(std::string(R"({"MetaData": [{"name": "k", "value": )") +
+                                             GetParam().value + "}]}");
+  const std::string expected = GetParam().heldType;
+  ASSERT_EQ(model.hasProperty("k"), !expected.empty());
+  if (!expected.empty()) {
+    EXPECT_EQ(model.getProperties().at("k").type().name(), expected);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, ReadValueTest,
+    ::testing::Values(ReadValueCase{R"("7")", typeid(std::string).name()},
+                      ReadValueCase{"1.5", typeid(double).name()},
+                      ReadValueCase{"7", typeid(int).name()},
+                      ReadValueCase{"-2147483648", typeid(int).name()},
+                      ReadValueCase{"true", typeid(bool).name()},
+                      ReadValueCase{"false", typeid(bool).name()},
+                      ReadValueCase{"2147483648", typeid(unsigned long).name()},
+                      ReadValueCase{R"(["a", "b"])", typeid(std::vector<std::string>).name()},
+                      ReadValueCase{"-2147483649", ""}, ReadValueCase{"null", ""},
+                      ReadValueCase{"{}", ""}));
+
+TEST(QPEPrjMetaDataModelTest, ReadMergesIntoWhatIsThere)
+{
+  QPEPrjMetaDataModel model;
+  model.addStringProperty("kept", "old");
+  model.addStringProperty("replaced", "old");
+  model = readText(R"({"MetaData": [{"name": "replaced", "value": 3}]})", model);
+  EXPECT_EQ(model.getStringProperty("kept"), "old");
+  EXPECT_EQ(model.getIntegrProperty("replaced"), 3);
+}
+
+TEST(QPEPrjMetaDataModelTest, FileWithoutMetaDataReadsAsNoProperty)
+{
+  for (const char* text : {"{}", R"({"MetaData": []})", R"({"MetaData": 5})", "[1, 2]"})
+    EXPECT_TRUE(readText(text).isEmpty()) << text;
+}
+
+TEST(QPEPrjMetaDataModelTest, CopyReplacesAndCopyOntoItselfKeeps)
+{
+  QPEPrjMetaDataModel source;
+  source.setQPEPLIntfIDString("abc");
+  QPEPrjMetaDataModel target;
+  target.addIntegrProperty("gone", 1);
+  EXPECT_TRUE(target.copy(source));
+  EXPECT_FALSE(target.hasProperty("gone"));
+  EXPECT_EQ(target.getQPEPLIntfIDString(), "abc");
+  EXPECT_TRUE(target.copy(target));
+  EXPECT_EQ(target.getQPEPLIntfIDString(), "abc");
+  target.clear();
+  EXPECT_TRUE(target.isEmpty());
+  EXPECT_EQ(target.getQPEPLIntfID(), 0u);
+}
+
+TEST(QPEPrjMetaDataModelTest, NaNValueMarksTheStreamFailed)
+{
+  QPEPrjMetaDataModel model;
+  model.addDoubleProperty("bad", std::nan(""));
+  std::ostringstream out;
+  model.writeToJSONStream(out);
+  EXPECT_TRUE(out.fail());
+}
+
+class MetaDataFileTest : public MessageLogTest {
+protected:
+  TempDir dir_;
+};
+
+TEST_F(MetaDataFileTest, FileRoundTripIsByteStable)
+{
+  QPEPrjMetaDataModel model;
+  model.setQPEPLIntfID(17);
+  model.addStringArrayProperty("ports", {"a", "b"});
+  model.writeToJSONFile(dir_.file("meta.json"));
+  QPEPrjMetaDataModel back;
+  back.readFromJSONFile(dir_.file("meta.json"));
+  EXPECT_EQ(readFile(dir_.file("meta.json")), written(model));
+  EXPECT_EQ(back.getQPEPLIntfID(), 17u);
+  EXPECT_TRUE(records().empty());
+}
+
+TEST_F(MetaDataFileTest, WriteToAnUnopenablePathDoesNothingQuietly)
+{
+  QPEPrjMetaDataModel model;
+  model.addIntegrProperty("a", 1);
+  EXPECT_NO_THROW(model.writeToJSONFile(dir_.file("missing/dir/meta.json")));
+  EXPECT_FALSE(fs::exists(dir_.file("missing/dir/meta.json")));
+  EXPECT_TRUE(records().empty());
+}
+
+struct BadFileCase {
+  const char* name;
+  const char* contents;  // null: no file at all
+  const char* format;
+  const char* detail;    // second argument, if the message has one
+};
+
+void PrintTo(const BadFileCase& c, std::ostream* out)
+{
+  *out << c.name;
+}
+
+class BadMetaDataFileTest : public MetaDataFileTest,
+                            public ::testing::WithParamInterface<BadFileCase> {};
+
+TEST_P(BadMetaDataFileTest, FailsWithANumberedMessageAndLeavesTheModel)
+{
+  const BadFileCase& c = GetParam();
+  const std::string path = dir_.file("meta.json");
+  if (c.contents)
+    writeFile(path, c.contents);
+  const std::string reported =
+      c.contents ? path : (fs::canonical(dir_.path()) / "meta.json").string();
+  std::vector<std::string> args{reported};
+  if (c.detail)
+    args.push_back(c.detail);
+
+  QPEPrjMetaDataModel model;
+  model.addIntegrProperty("kept", 1);
+  expectThrows([&] { model.readFromJSONFile(path); }, c.format, args);
+  EXPECT_EQ(model.getProperties().size(), 1u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BadMetaDataFileTest,
+    ::testing::Values(
+        BadFileCase{"missing", nullptr, "@90-1@%s", nullptr},
+        BadFileCase{"empty", "", "@90-2@%s%s", "The document is empty. (offset 0)"},
+        BadFileCase{"malformed", "{\"MetaData\": [}", "@90-2@%s%s",
+                    "Invalid value. (offset 14)"},
+        BadFileCase{"truncated", "{\"MetaData\": [{\"name\": \"a\", \"val", "@90-2@%s%s",
+                    "Missing a closing quotation mark in string. (offset 32)"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST_F(MetaDataFileTest, DirectoryIsRefusedByItsCanonicalName)
+{
+  QPEPrjMetaDataModel model;
+  expectThrows([&] { model.readFromJSONFile(dir_.path().string()); }, "@90-1@%s",
+               {fs::canonical(dir_.path()).string()});
+}
+
+}  // namespace

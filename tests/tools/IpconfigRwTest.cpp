@@ -1,0 +1,124 @@
+#include "TestSupport.h"
+
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
+
+namespace {
+
+using testing_support::readFile;
+using testing_support::TempDir;
+using testing_support::writeFile;
+
+struct RunResult {
+  int exitCode;
+  std::string output;  // stdout and stderr together
+};
+
+RunResult runTool(const std::string& args)
+{
+  const std::string command = std::string(IPCONFIG_RW_TOOL) + " " + args + " 2>&1";
+  RunResult result{-1, {}};
+  FILE* pipe = popen(command.c_str(), "r");
+  if (!pipe)
+    return result;
+  std::array<char, 4096> buffer;
+  while (std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
+    result.output.append(buffer.data(), got);
+  const int status = pclose(pipe);
+  result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return result;
+}
+
+const std::string example = IPCONFIG_RW_EXAMPLES_DIR "/metadata.json";
+
+TEST(IpconfigRwTest, CheckSummarisesTheExample)
+{
+  const RunResult result = runTool("metadata check " + example);
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_EQ(result.output,
+            "metadata " + example +
+                ": 5 properties: QPE_PL_INTF_ID (int), QPE_PL_INTF_ID_STR (string), "
+                "compiler.options (string list), device.speedGrade (double), "
+                "project.enableBlockModel (bool)\n");
+}
+
+TEST(IpconfigRwTest, RoundtripOfTheExampleIsByteIdentical)
+{
+  const TempDir dir;
+  const RunResult result = runTool("metadata roundtrip " + example + " " + dir.file("out.json"));
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_EQ(readFile(dir.file("out.json")), readFile(example));
+}
+
+struct FailureCase {
+  const char* name;
+  const char* contents;  // null: no input file
+  std::string expectedLine;
+};
+
+void PrintTo(const FailureCase& c, std::ostream* out)
+{
+  *out << c.name;
+}
+
+class IpconfigRwBadInputTest : public ::testing::TestWithParam<FailureCase> {};
+
+TEST_P(IpconfigRwBadInputTest, ExitsOneWithTheMessageId)
+{
+  const TempDir dir;
+  if (GetParam().contents)
+    writeFile(dir.file("in.json"), GetParam().contents);
+  const RunResult result = runTool("metadata check " + dir.file("in.json"));
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.output.find(GetParam().expectedLine), std::string::npos) << result.output;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Inputs, IpconfigRwBadInputTest,
+    ::testing::Values(FailureCase{"missing", nullptr, "ERROR: [ipconfig @90-1@] "},
+                      FailureCase{"malformed", "{", "ERROR: [ipconfig @90-2@] "},
+                      FailureCase{"empty", "",
+                                  "The document is empty. (offset 0)"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(IpconfigRwTest, RoundtripToAnUnwritablePathFails)
+{
+  const TempDir dir;
+  const RunResult result =
+      runTool("metadata roundtrip " + example + " " + dir.file("no/dir/out.json"));
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.output.find("cannot write"), std::string::npos) << result.output;
+}
+
+struct UsageCase {
+  const char* args;
+  int exitCode;
+  const char* expected;
+};
+
+void PrintTo(const UsageCase& c, std::ostream* out)
+{
+  *out << "'" << c.args << "'";
+}
+
+class IpconfigRwUsageTest : public ::testing::TestWithParam<UsageCase> {};
+
+TEST_P(IpconfigRwUsageTest, ReportsUsageProblems)
+{
+  const RunResult result = runTool(GetParam().args);
+  EXPECT_EQ(result.exitCode, GetParam().exitCode) << result.output;
+  EXPECT_NE(result.output.find(GetParam().expected), std::string::npos) << result.output;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Arguments, IpconfigRwUsageTest,
+    ::testing::Values(UsageCase{"--help", 0, "  metadata: project metadata"},
+                      UsageCase{"", 2, "expected a format and a command"},
+                      UsageCase{"nosuchformat check x", 2, "unknown format 'nosuchformat'"},
+                      UsageCase{"metadata explode x", 2, "unknown command 'explode'"},
+                      UsageCase{"metadata check", 2, "metadata check takes 1 argument(s)"},
+                      UsageCase{"metadata roundtrip a", 2, "takes 2 argument(s)"}));
+
+}  // namespace

@@ -1,0 +1,13 @@
+#include "Format.h"
+
+namespace ipconfig_rw {
+
+const std::vector<Format>& allFormats()
+{
+  static const std::vector<Format> formats{
+      metadataFormat(),
+  };
+  return formats;
+}
+
+}  // namespace ipconfig_rw
