@@ -16,6 +16,12 @@ const JValue* findMember(const JValue& object, const std::string& key)
   return member == object.MemberEnd() ? nullptr : &member->value;
 }
 
+bool memberIs(const JValue& object, const std::string& key, bool (JValue::*isType)() const)
+{
+  const JValue* value = findMember(object, key);
+  return value && (value->*isType)();
+}
+
 JValue copyOf(const std::string& text, JAllocator& alloc)
 {
   return JValue(text.c_str(), static_cast<rapidjson::SizeType>(text.size()), alloc);
@@ -131,38 +137,32 @@ std::vector<std::string> HCRapidJsonReadWriteUtils::GetStringArrayProperty(
 
 bool HCRapidJsonReadWriteUtils::IsBooleanProperty(const JValue& object, const std::string& key)
 {
-  const JValue* value = findMember(object, key);
-  return value && value->IsBool();
+  return memberIs(object, key, &JValue::IsBool);
 }
 
 bool HCRapidJsonReadWriteUtils::IsIntegrProperty(const JValue& object, const std::string& key)
 {
-  const JValue* value = findMember(object, key);
-  return value && value->IsInt();
+  return memberIs(object, key, &JValue::IsInt);
 }
 
 bool HCRapidJsonReadWriteUtils::IsULongProperty(const JValue& object, const std::string& key)
 {
-  const JValue* value = findMember(object, key);
-  return value && value->IsUint64();
+  return memberIs(object, key, &JValue::IsUint64);
 }
 
 bool HCRapidJsonReadWriteUtils::IsDoubleProperty(const JValue& object, const std::string& key)
 {
-  const JValue* value = findMember(object, key);
-  return value && value->IsDouble();
+  return memberIs(object, key, &JValue::IsDouble);
 }
 
 bool HCRapidJsonReadWriteUtils::IsStringProperty(const JValue& object, const std::string& key)
 {
-  const JValue* value = findMember(object, key);
-  return value && value->IsString();
+  return memberIs(object, key, &JValue::IsString);
 }
 
 bool HCRapidJsonReadWriteUtils::IsArrayProperty(const JValue& object, const std::string& key)
 {
-  const JValue* value = findMember(object, key);
-  return value && value->IsArray();
+  return memberIs(object, key, &JValue::IsArray);
 }
 
 bool HCRapidJsonReadWriteUtils::validateSchemaFile(const std::string& path)

@@ -1,7 +1,6 @@
 #include "TestSupport.h"
 
 #include "ComMsgMgrInstance.h"
-#include "HEXAlgException.h"
 
 #include <sstream>
 
@@ -60,13 +59,6 @@ INSTANTIATE_TEST_SUITE_P(
                       ConsoleCase{ComMsgMgr::Error,
                                   "ERROR: [ipconfig @75-585@] NoC Traffic Spec"}));
 
-TEST_F(ComMsgMgrTest, SilencedConsoleStillRecords)
-{
-  ComMsgMgr::sendMsg::eval(0, __FILE__, __LINE__, "ipconfig", ComMsgMgr::Warning, "@75-857@");
-  ASSERT_EQ(records().size(), 1u);
-  EXPECT_EQ(records()[0].message.toString(), "WARNING: [ipconfig @75-857@]");
-}
-
 TEST_F(ComMsgMgrTest, ThrownInstanceIsRecordedAsThrownWithItsFile)
 {
   ComMsgMgrInstance message = ComMsgMgrInstance::createInstance::eval(
@@ -85,17 +77,6 @@ TEST_F(ComMsgMgrTest, ThrownInstanceIsRecordedAsThrownWithItsFile)
   ASSERT_EQ(logged.size(), 1u);
   EXPECT_TRUE(logged[0].thrown);
   EXPECT_EQ(logged[0].message.getAttachedFile(), "/tmp/c.json");
-}
-
-TEST_F(ComMsgMgrTest, AlgExceptionCarriesPlainTextAndNoMessage)
-{
-  try {
-    throw HEXAlgException("ConstrReader::readConstraints() - no handler");
-  } catch (const HEXAll& failure) {
-    EXPECT_STREQ(failure.what(), "ConstrReader::readConstraints() - no handler");
-    EXPECT_EQ(failure.getMessage(), nullptr);
-  }
-  EXPECT_TRUE(records().empty());
 }
 
 TEST_F(ComMsgMgrTest, LogKeepsTheNewestRecordsUpToItsCapacity)

@@ -1,34 +1,13 @@
 #include "TestSupport.h"
 
-#include "HPAParamMgr.h"
-#include "HSTStrUtils.h"
 #include "HUTFile.h"
 #include "HUTFileUtils.h"
-#include "HUTFileWriteStream.h"
 
 namespace {
 
 using testing_support::TempDir;
 using testing_support::writeFile;
 namespace fs = boost::filesystem;
-
-TEST(HUTFileTest, TellsFilesFromDirectoriesAndMissingPaths)
-{
-  const TempDir dir;
-  writeFile(dir.file("a.json"), "12345");
-  const HUTFile file(dir.file("a.json"));
-  const HUTFile directory(dir.path().string());
-  const HUTFile missing(dir.file("none.json"));
-
-  EXPECT_TRUE(file.exists());
-  EXPECT_TRUE(file.isFile());
-  EXPECT_EQ(file.size(), 5u);
-  EXPECT_TRUE(directory.exists());
-  EXPECT_FALSE(directory.isFile());
-  EXPECT_FALSE(missing.exists());
-  EXPECT_FALSE(missing.isFile());
-  EXPECT_EQ(missing.size(), 0u);
-}
 
 TEST(HUTFileTest, CanonicalNameIsAbsoluteNormalAndMayAliasTheInput)
 {
@@ -81,49 +60,5 @@ INSTANTIATE_TEST_SUITE_P(Paths, MakeRelativeTest,
                                            RelativeCase{"/w/p", "rel/a.json", false,
                                                         "rel/a.json"},
                                            RelativeCase{"", "/w/a.json", false, "/w/a.json"}));
-
-TEST(HUTFileUtilsTest, CheckFileForReadingSaysWhyOrNothing)
-{
-  const TempDir dir;
-  writeFile(dir.file("a.json"), "{}");
-  EXPECT_EQ(HUTFileUtils::checkFileForReading(dir.file("a.json"), {}), "");
-  EXPECT_EQ(HUTFileUtils::checkFileForReading("a.json", {dir.path().string()}), "");
-  EXPECT_EQ(HUTFileUtils::checkFileForReading(dir.file("b.json"), {}),
-            "file does not exist: " + dir.file("b.json"));
-  EXPECT_EQ(HUTFileUtils::checkFileForReading(dir.path().string(), {}),
-            "not a regular file: " + dir.path().string());
-}
-
-TEST(HUTFileWriteStreamTest, TruncatesAndFailsOnAnUnopenablePath)
-{
-  const TempDir dir;
-  writeFile(dir.file("out.json"), "old contents");
-  {
-    HUTFileWriteStream out(dir.file("out.json"), std::ios_base::out);
-    out << "new";
-  }
-  EXPECT_EQ(testing_support::readFile(dir.file("out.json")), "new");
-  HUTFileWriteStream bad(dir.file("no/such/dir/out.json"), std::ios_base::out);
-  EXPECT_TRUE(bad.fail());
-}
-
-TEST(HPAParamMgrTest, UnknownNamesReadFalseAndSetValuesStick)
-{
-  HPAParamMgr& params = HPAParamMgr::getParamMgr();
-  EXPECT_EQ(&params, &HPAParamMgr::getParamMgr());
-  EXPECT_FALSE(params.getValueAsBool("project.enableBlockModel"));
-  params.setValueAsBool("project.enableBlockModel", true);
-  EXPECT_TRUE(params.getValueAsBool("project.enableBlockModel"));
-  params.reset();
-  EXPECT_FALSE(params.getValueAsBool("project.enableBlockModel"));
-}
-
-TEST(HSTStrUtilsTest, ContainsIsASubstringTest)
-{
-  EXPECT_TRUE(HSTStrUtils::contains("top/noc_inst_0", "noc_inst"));
-  EXPECT_TRUE(HSTStrUtils::contains("abc", ""));
-  EXPECT_FALSE(HSTStrUtils::contains("abc", "abcd"));
-  EXPECT_FALSE(HSTStrUtils::contains(nullptr, "a"));
-}
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "JsonFileFrame.h"
 
+#include "HUTFile.h"
+#include "HUTFileWriteStream.h"
 #include "IPConfigMessages.h"
 
 #include <rapidjson/istreamwrapper.h>
@@ -20,7 +22,35 @@ void setIndent(PrettyWriter& writer)
   writer.SetIndent(' ', 2);
 }
 
+// Opens the canonical name of `path`; `readable` tells whether it is an
+// existing regular file on a good stream.
+struct OpenedInput {
+  std::string canonicalName;
+  std::unique_ptr<InputFileStream> stream;
+  bool readable;
+};
+
+OpenedInput openInput(const std::string& path, const InputFileStream::Opener& opener)
+{
+  OpenedInput input;
+  HUTFile(path).getCanonicalName(input.canonicalName);
+  input.stream = std::make_unique<InputFileStream>(input.canonicalName, std::ios_base::binary,
+                                                   opener);
+  const HUTFile file(input.canonicalName);
+  input.readable = file.exists() && file.isFile() && input.stream->good();
+  return input;
+}
+
 }  // namespace
+
+void JsonFileFrame::readFile(const std::string& path, const InputFileStream::Opener& opener,
+                             const StreamReader& readStream)
+{
+  const OpenedInput input = openInput(path, opener);
+  if (!input.readable)
+    HCRapidJsonReadWriteUtils::errorReadingJsonFile(input.canonicalName);
+  readStream(*input.stream, input.canonicalName);
+}
 
 void JsonFileFrame::parse(std::istream& in, const std::string& fileName, JDocument& document)
 {
@@ -36,18 +66,15 @@ void JsonFileFrame::parse(std::istream& in, const std::string& fileName, JDocume
 std::unique_ptr<JSchemaDocument> JsonFileFrame::loadSchema(const std::string& schemaPath,
                                                            const InputFileStream::Opener& opener)
 {
-  std::string schemaName;
-  HUTFile(schemaPath).getCanonicalName(schemaName);
-  InputFileStream in(schemaName, std::ios_base::binary, opener);
-  const HUTFile file(schemaName);
-  if (!file.exists() || !file.isFile() || !in.good())
-    HCRapidJsonReadWriteUtils::errorReadingSchemaFile(schemaName);
+  const OpenedInput input = openInput(schemaPath, opener);
+  if (!input.readable)
+    HCRapidJsonReadWriteUtils::errorReadingSchemaFile(input.canonicalName);
   JDocument schemaDocument;
-  rapidjson::IStreamWrapper wrapper(in);
+  rapidjson::IStreamWrapper wrapper(*input.stream);
   schemaDocument.ParseStream(wrapper);
   if (schemaDocument.HasParseError())
     HCRapidJsonReadWriteUtils::errorParsingSchemaFile(
-        schemaName, HCRapidJsonReadWriteUtils::GetErrorMsgFromDocument(schemaDocument));
+        input.canonicalName, HCRapidJsonReadWriteUtils::GetErrorMsgFromDocument(schemaDocument));
   return std::make_unique<JSchemaDocument>(schemaDocument);
 }
 
@@ -61,6 +88,20 @@ void JsonFileFrame::validate(const JDocument& document, const std::string& fileN
   rapidjson::StringBuffer pointer;
   validator.GetInvalidDocumentPointer().Stringify(pointer);
   HCRapidJsonReadWriteUtils::errorParsingJsonFile(fileName, pointer.GetString());
+}
+
+bool JsonFileFrame::writeFile(const std::string& path, OpenCheck check,
+                              const StreamWriter& writeStream)
+{
+  std::string canonicalName;
+  HUTFile(path).getCanonicalName(canonicalName);
+  HUTFileWriteStream out(canonicalName, std::ios_base::out);
+  if (check == OpenCheck::refuseUnopened && out.fail())
+    return false;
+  const bool written = writeStream(out);
+  if (!out.rdbuf()->close())
+    out.setstate(std::ios_base::failbit);
+  return written;
 }
 
 bool JsonFileFrame::writeValidated(const JDocument& document, std::ostream& out,

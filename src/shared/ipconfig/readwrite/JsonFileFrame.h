@@ -1,13 +1,12 @@
 #pragma once
 
 #include "HCRapidJsonReadWriteUtils.h"
-#include "HUTFile.h"
-#include "HUTFileWriteStream.h"
 #include "ipconfig_readwrite_export.h"
 #include "isl/iostreams.h"
 
 #include <rapidjson/schema.h>
 
+#include <functional>
 #include <iosfwd>
 #include <memory>
 #include <string>
@@ -28,21 +27,14 @@ public:
     writeRegardless,  // the document is still built and validated; the text is lost
   };
 
+  using StreamReader = std::function<void(std::istream& in, const std::string& canonicalName)>;
+  using StreamWriter = std::function<bool(std::ostream& out)>;
+
   // Reading, path form: opens the canonical name of `path` with `opener` and
   // hands the stream and that name to `readStream`. A missing file, a
   // directory or a stream that is not good is errorReadingJsonFile.
-  template <typename StreamReader>
-  static auto readFile(const std::string& path, const InputFileStream::Opener& opener,
-                       StreamReader&& readStream)
-  {
-    std::string canonicalName;
-    HUTFile(path).getCanonicalName(canonicalName);
-    InputFileStream in(canonicalName, std::ios_base::binary, opener);
-    const HUTFile file(canonicalName);
-    if (!file.exists() || !file.isFile() || !in.good())
-      HCRapidJsonReadWriteUtils::errorReadingJsonFile(canonicalName);
-    return readStream(static_cast<std::istream&>(in), canonicalName);
-  }
+  static void readFile(const std::string& path, const InputFileStream::Opener& opener,
+                       const StreamReader& readStream);
 
   // Reading, stream form: refuses a stream that is not good, then parses it.
   static void parse(std::istream& in, const std::string& fileName, JDocument& document);
@@ -59,19 +51,7 @@ public:
   // Writing, path form: opens the canonical name of `path` for output, calls
   // `writeStream`, closes the file; a failed close sets failbit on the stream
   // and leaves the result as `writeStream` gave it.
-  template <typename StreamWriter>
-  static bool writeFile(const std::string& path, OpenCheck check, StreamWriter&& writeStream)
-  {
-    std::string canonicalName;
-    HUTFile(path).getCanonicalName(canonicalName);
-    HUTFileWriteStream out(canonicalName, std::ios_base::out);
-    if (check == OpenCheck::refuseUnopened && out.fail())
-      return false;
-    const bool written = writeStream(static_cast<std::ostream&>(out));
-    if (!out.rdbuf()->close())
-      out.setstate(std::ios_base::failbit);
-    return written;
-  }
+  static bool writeFile(const std::string& path, OpenCheck check, const StreamWriter& writeStream);
 
   // Writing, stream form: one walk validates the document and pretty-prints
   // it. A document that fails its schema sends "@75-585@%s" with `fileKind`,
