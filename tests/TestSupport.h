@@ -2,10 +2,13 @@
 
 #include "ComMsgLog.h"
 #include "ComMsgMgr.h"
+#include "HCRapidJsonReadWriteUtils.h"
 #include "HEXAll.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 #include <cstdlib>
 #include <fstream>
@@ -45,6 +48,15 @@ inline void writeFile(const std::string& path, const std::string& text)
 {
   fs::create_directories(fs::path(path).parent_path());
   std::ofstream(path, std::ios::binary) << text;
+}
+
+// Compact JSON text of a value, for comparing exact output.
+inline std::string toText(const JValue& value)
+{
+  rapidjson::StringBuffer buffer;
+  rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
+  value.Accept(writer);
+  return buffer.GetString();
 }
 
 inline std::string readFile(const std::string& path)

@@ -2,9 +2,6 @@
 
 #include "HCRapidJsonReadWriteUtils.h"
 
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
 #include <functional>
 
 namespace {
@@ -12,20 +9,13 @@ namespace {
 using Json = HCRapidJsonReadWriteUtils;
 using testing_support::MessageLogTest;
 using testing_support::TempDir;
+using testing_support::toText;
 
 JDocument parse(const char* text)
 {
   JDocument document;
   document.Parse(text);
   return document;
-}
-
-std::string toText(const JValue& value)
-{
-  rapidjson::StringBuffer buffer;
-  rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
-  value.Accept(writer);
-  return buffer.GetString();
 }
 
 const char* const typedValues = R"({
