@@ -1,0 +1,14 @@
+#include "ConstBaseVisitor.h"
+
+#include "VisitorDispatch.h"
+
+namespace qpe::constraints {
+
+ConstBaseVisitor::~ConstBaseVisitor() = default;
+
+void ConstBaseVisitor::visit(const BaseConstraint* constr)
+{
+  dispatchVisit(*this, constr);
+}
+
+}  // namespace qpe::constraints

@@ -1,0 +1,187 @@
+#include "ConstrCast.h"
+
+namespace qpe::constraints {
+
+// The kinds not built yet give null.
+
+BufferConstr* ConstrCast::toBuffer(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const BufferConstr* ConstrCast::toBuffer(const BaseConstraint* constr)
+{
+  return toBuffer(const_cast<BaseConstraint*>(constr));
+}
+
+TileConstr* ConstrCast::toTile(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const TileConstr* ConstrCast::toTile(const BaseConstraint* constr)
+{
+  return toTile(const_cast<BaseConstraint*>(constr));
+}
+
+MemConstr* ConstrCast::toMem(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const MemConstr* ConstrCast::toMem(const BaseConstraint* constr)
+{
+  return toMem(const_cast<BaseConstraint*>(constr));
+}
+
+ReservedMemoryConstr* ConstrCast::toReservedMemory(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const ReservedMemoryConstr* ConstrCast::toReservedMemory(const BaseConstraint* constr)
+{
+  return toReservedMemory(const_cast<BaseConstraint*>(constr));
+}
+
+ShimConstr* ConstrCast::toShim(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const ShimConstr* ConstrCast::toShim(const BaseConstraint* constr)
+{
+  return toShim(const_cast<BaseConstraint*>(constr));
+}
+
+PortLocConstr* ConstrCast::toPortLoc(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const PortLocConstr* ConstrCast::toPortLoc(const BaseConstraint* constr)
+{
+  return toPortLoc(const_cast<BaseConstraint*>(constr));
+}
+
+StreamChannelConstr* ConstrCast::toStreamChannel(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const StreamChannelConstr* ConstrCast::toStreamChannel(const BaseConstraint* constr)
+{
+  return toStreamChannel(const_cast<BaseConstraint*>(constr));
+}
+
+AttrConstr* ConstrCast::toAttr(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const AttrConstr* ConstrCast::toAttr(const BaseConstraint* constr)
+{
+  return toAttr(const_cast<BaseConstraint*>(constr));
+}
+
+ColocatedNodesConstr* ConstrCast::toColocatedNodes(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const ColocatedNodesConstr* ConstrCast::toColocatedNodes(const BaseConstraint* constr)
+{
+  return toColocatedNodes(const_cast<BaseConstraint*>(constr));
+}
+
+RelativeNodesConstr* ConstrCast::toRelativeNodes(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const RelativeNodesConstr* ConstrCast::toRelativeNodes(const BaseConstraint* constr)
+{
+  return toRelativeNodes(const_cast<BaseConstraint*>(constr));
+}
+
+ColocatedPortsConstr* ConstrCast::toColocatedPorts(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const ColocatedPortsConstr* ConstrCast::toColocatedPorts(const BaseConstraint* constr)
+{
+  return toColocatedPorts(const_cast<BaseConstraint*>(constr));
+}
+
+ColocatedDmaConstr* ConstrCast::toColocatedDma(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const ColocatedDmaConstr* ConstrCast::toColocatedDma(const BaseConstraint* constr)
+{
+  return toColocatedDma(const_cast<BaseConstraint*>(constr));
+}
+
+FifoLocationsConstr* ConstrCast::toFifoLocations(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const FifoLocationsConstr* ConstrCast::toFifoLocations(const BaseConstraint* constr)
+{
+  return toFifoLocations(const_cast<BaseConstraint*>(constr));
+}
+
+ColocatedMemoriesConstr* ConstrCast::toColocatedMemories(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const ColocatedMemoriesConstr* ConstrCast::toColocatedMemories(const BaseConstraint* constr)
+{
+  return toColocatedMemories(const_cast<BaseConstraint*>(constr));
+}
+
+AreaGroupConstr* ConstrCast::toAreaGroup(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const AreaGroupConstr* ConstrCast::toAreaGroup(const BaseConstraint* constr)
+{
+  return toAreaGroup(const_cast<BaseConstraint*>(constr));
+}
+
+InstGroupConstr* ConstrCast::toInstGroup(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const InstGroupConstr* ConstrCast::toInstGroup(const BaseConstraint* constr)
+{
+  return toInstGroup(const_cast<BaseConstraint*>(constr));
+}
+
+DependentRoutingGroupConstr* ConstrCast::toDependentRoutingGroup(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const DependentRoutingGroupConstr* ConstrCast::toDependentRoutingGroup(const BaseConstraint* constr)
+{
+  return toDependentRoutingGroup(const_cast<BaseConstraint*>(constr));
+}
+
+IsomorphicGraphGroupConstr* ConstrCast::toIsomorphicGraphGroup(BaseConstraint*)
+{
+  return nullptr;
+}
+
+const IsomorphicGraphGroupConstr* ConstrCast::toIsomorphicGraphGroup(const BaseConstraint* constr)
+{
+  return toIsomorphicGraphGroup(const_cast<BaseConstraint*>(constr));
+}
+
+}  // namespace qpe::constraints
