@@ -1,0 +1,3 @@
+#include "HIPLogicalObjectNameResolverInterface.h"
+
+HIPLogicalObjectNameResolverInterface::~HIPLogicalObjectNameResolverInterface() = default;

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "TrafficPerfSpec.h"
+#include "ipconfig_hrdip_export.h"
+
+#include <string>
+
+namespace HrdIPToolCntr {
+
+class TrafficLInst;
+class TrafficPath;
+
+// One direction of a path's traffic, which the NoC compiler routes. Read
+// and read request nets carry the path's read figures, write and write
+// response nets its write figures.
+class IPCONFIG_HRDIP_EXPORT TrafficNet {
+public:
+  enum NetType { READ = 0, WRITE = 1, READ_REQ = 2, WRITE_RESP = 3 };
+
+  // The instance whose name messages show is the one where the net's traffic
+  // starts: the slave for read data and write responses, the master for
+  // writes and read requests.
+  TrafficNet(TrafficPath* path, NetType type);
+
+  const TrafficLInst* instance;
+  NetType type;
+  TrafficPath* path;
+
+  bool isRead() const { return type == READ || type == READ_REQ; }
+
+  // The plain figures, and those of a phase of the path's group by its number
+  // (TrafficSpec::getPhaseNumber); a phase the path has no figures for gives
+  // the plain figures.
+  const TrafficPerfSpec& getPerfSpec() const;
+  TrafficPerfSpec getPerfSpec(unsigned phaseNumber) const;
+
+  // The bandwidth `bw` achieved in `phase` as it stands, unless the figures
+  // the net has for that phase (failing them, its plain figures) ask for no
+  // bandwidth: then 0.
+  unsigned getEffectiveBw(unsigned bw, const std::string& phase) const;
+};
+
+}  // namespace HrdIPToolCntr
