@@ -82,8 +82,9 @@ TEST(DefinitionsTest, EverySlaveTypeReadsAndNoOtherTextDoes)
   }
   ASSERT_EQ(slaveTexts.size(), 34u);
   for (const auto& row : rows(compTypes)) {
-    if (slaveTexts.count(row.second) == 0)
-      EXPECT_EQ(Defs::toSlvCompTypeEnum(row.second), Defs::SLV_COMP_TYPE_NONE) << row.second;
+    const bool isSlaveText = slaveTexts.count(row.second) != 0;
+    EXPECT_EQ(Defs::toSlvCompTypeEnum(row.second) == Defs::SLV_COMP_TYPE_NONE, !isSlaveText)
+        << row.second;
   }
 }
 
