@@ -27,8 +27,9 @@ class JsonFileFrameTest : public MessageLogTest {
 protected:
   JsonFileFrameTest() : kvrRoot_("KVR_ROOT", root_.path().string())
   {
-    fs::create_directories(root_.path() / "data");
-    writeFile(NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile(), schemaText);
+    // Written by its full path: asking for the schema first would find the
+    // one the source tree ships.
+    writeFile(schemaPath(), schemaText);
   }
 
   static JDocument document(const char* text)
@@ -38,7 +39,10 @@ protected:
     return parsed;
   }
 
-  static std::string schemaPath() { return NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile(); }
+  std::string schemaPath() const
+  {
+    return root_.file("data/parts/tarnel/common/noc/schemas/traffic.json");
+  }
 
   TempDir root_;
   ScopedEnv kvrRoot_;
@@ -179,8 +183,12 @@ TEST_F(NOCJsonReadWriteUtilsTest, SchemaPathsLieUnderTheDataDirectory)
 {
   const TempDir root;
   const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
-  fs::create_directories(root.path() / "data");
   const std::string data = (root.path() / "data").string();
+  // The tree holds every schema, so that none is looked for elsewhere.
+  for (const char* schema :
+       {"noc/schemas/traffic.json", "noc/schemas/solution.json", "noc/schemas/constraints.json",
+        "merrow/LogicalArchSchema.json", "merrow/ZXSolutionSchema.json"})
+    writeFile(data + "/parts/tarnel/common/" + schema, "{}");
   using Utils = NOC::NOCJsonReadWriteUtils;
   EXPECT_EQ(Utils::getTrafficJsonSchemaFile(), data + "/parts/tarnel/common/noc/schemas/traffic.json");
   EXPECT_EQ(Utils::getSolutionJsonSchemaFile(),

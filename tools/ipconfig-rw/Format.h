@@ -29,5 +29,6 @@ struct Format {
 const std::vector<Format>& allFormats();
 
 Format metadataFormat();
+Format trafficFormat();
 
 }  // namespace ipconfig_rw
