@@ -83,6 +83,37 @@ INSTANTIATE_TEST_SUITE_P(
                                   "The document is empty. (offset 0)"}),
     [](const auto& info) { return info.param.name; });
 
+TEST(IpconfigRwTest, TrafficCheckSummarisesPlainAndCompressedExamples)
+{
+  for (const std::string name : {"traffic.json", "traffic.json.gz"}) {
+    const std::string path = IPCONFIG_RW_EXAMPLES_DIR "/" + name;
+    const RunResult result = runTool("traffic check " + path);
+    EXPECT_EQ(result.exitCode, 0) << result.output;
+    EXPECT_EQ(result.output, "traffic " + path +
+                                 ": 7 instances (3 master, 3 slave, 1 other), 4 paths, "
+                                 "1 phase groups, 1 DFX paths\n");
+  }
+}
+
+TEST(IpconfigRwTest, TrafficCheckEchoesWarningsAndFailsWithTheMessage)
+{
+  const TempDir dir;
+  writeFile(dir.file("warn.json"), R"({"LogicalInstances": [
+      {"Name": "mc", "CompType": "DDRC", "Ports": ["PORT9"]}]})");
+  RunResult result = runTool("traffic check " + dir.file("warn.json"));
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_NE(result.output.find("CRITICAL WARNING: [ipconfig @73-30@] PORT9 mc"), std::string::npos)
+      << result.output;
+
+  writeFile(dir.file("bad.json"), R"({"LogicalInstances": [{"Name": "x", "CompType": "NPS_9"}]})");
+  result = runTool("traffic check " + dir.file("bad.json"));
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.output.find("ERROR: [ipconfig @90-2@] " + dir.file("bad.json") +
+                               " Unknown component type : NPS_9"),
+            std::string::npos)
+      << result.output;
+}
+
 TEST(IpconfigRwTest, RoundtripToAnUnwritablePathFails)
 {
   const TempDir dir;
