@@ -1,0 +1,97 @@
+#include "HDGUIStatus.h"
+#include "NOCJsonReadWriteUtils.h"
+#include "NOCJsonTrafficSpecReader.h"
+#include "TrafficSpec.h"
+
+#include <benchmark/benchmark.h>
+#include <rapidjson/istreamwrapper.h>
+#include <rapidjson/schema.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+// Half the instances are masters, half slaves with an address each; every
+// path goes from a master to a slave, one in ten with two phases.
+std::string makeTraffic(int instances, int paths)
+{
+  const int masters = instances / 2;
+  const int slaves = instances - masters;
+  std::ostringstream text;
+  text << R"({"SystemProperties": {"Frequency": 1000, "DeviceName": "dev"}, "LogicalInstances": [)";
+  for (int i = 0; i < instances; ++i) {
+    const bool master = i < masters;
+    text << (i ? "," : "") << R"({"Name": "top/inst_)" << i << R"(", "IsMaster": )"
+         << (master ? "true" : "false") << R"(, "CompType": ")" << (master ? "PL_NMU" : "PL_NSU")
+         << R"(", "Protocol": "AXI_MM", "AxiDataWidth": 128, "SysAddresses": [)";
+    if (!master)
+      text << R"({"Base": "0x)" << std::hex << (0x100000ul * i) << std::dec
+           << R"(", "Size": "0x100000"})";
+    text << "]}";
+  }
+  text << R"(], "Paths": [)";
+  for (int p = 0; p < paths; ++p) {
+    text << (p ? "," : "") << R"({"Phase": 0, "From": "top/inst_)" << p % masters
+         << R"(", "To": "top/inst_)" << masters + (p * 7) % slaves
+         << R"(", "Port": "PORT0", "CommType": "MM_ReadWrite", "ReadBW": )" << 100 + p % 900
+         << R"(, "ReadLatency": 300, "ReadAvgBurst": 4, "WriteBW": 200, "WriteLatency": 300, )"
+            R"("WriteAvgBurst": 4, "WriteOrder": "relaxed")";
+    if (p % 10 == 0)
+      text << R"(, "PhaseGroups": [{"Name": "G", "Phases": [{"Name": "A", "ReadBW": 1, )"
+              R"("WriteBW": 2, "ReadAvgBurst": 4, "WriteAvgBurst": 4}, {"Name": "B", )"
+              R"("ReadBW": 3, "WriteBW": 4, "ReadAvgBurst": 4, "WriteAvgBurst": 4}]}])";
+    text << "}";
+  }
+  text << "]}";
+  return text.str();
+}
+
+void setCounters(benchmark::State& state)
+{
+  state.SetItemsProcessed(state.iterations() * (state.range(0) + state.range(1)));
+}
+
+// The floor: RapidJSON alone parses the same text from a stream and
+// validates it with the same schema, read and compiled anew each time as
+// the reader does.
+void BM_TrafficParseAndValidate(benchmark::State& state)
+{
+  const std::string text = makeTraffic(state.range(0), state.range(1));
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
+  for (auto _ : state) {
+    std::istringstream in(text);
+    rapidjson::IStreamWrapper wrapper(in);
+    JDocument document;
+    document.ParseStream(wrapper);
+    std::ifstream schemaFile(schemaPath, std::ios::binary);
+    rapidjson::IStreamWrapper schemaWrapper(schemaFile);
+    JDocument schemaDocument;
+    schemaDocument.ParseStream(schemaWrapper);
+    const rapidjson::SchemaDocument schema(schemaDocument);
+    rapidjson::SchemaValidator validator(schema);
+    benchmark::DoNotOptimize(document.Accept(validator));
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_TrafficParseAndValidate)
+    ->Args({500, 5000})
+    ->Args({5000, 50000})
+    ->Unit(benchmark::kMillisecond);
+
+void BM_TrafficRead(benchmark::State& state)
+{
+  const std::string text = makeTraffic(state.range(0), state.range(1));
+  HDGUIStatus status;
+  for (auto _ : state) {
+    std::istringstream in(text);
+    HrdIPToolCntr::TrafficSpec spec;
+    NOC::NOCJsonTrafficSpecReader().readFromJsonFile(in, "bench.json", spec, status);
+    benchmark::DoNotOptimize(spec.getNumPaths());
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_TrafficRead)->Args({500, 5000})->Args({5000, 50000})->Unit(benchmark::kMillisecond);
+
+}  // namespace
