@@ -1,5 +1,6 @@
 #pragma once
 
+#include "IndexedPairs.h"
 #include "ipconfig_hrdip_export.h"
 
 #include <boost/icl/interval_set.hpp>
@@ -34,13 +35,13 @@ public:
   // space, adds the entry but no interval.
   void addSysAddress(std::pair<unsigned long, unsigned long> baseAndSize);
   // Walked from 0 until false.
-  bool hasValidSysAddress(int index) const;
-  unsigned long getSysAddress(int index) const;
-  unsigned long getSysAddrSize(int index) const;
+  bool hasValidSysAddress(int index) const { return sysAddresses.hasValid(index); }
+  unsigned long getSysAddress(int index) const { return sysAddresses.first(index); }
+  unsigned long getSysAddrSize(int index) const { return sysAddresses.second(index); }
   AddressRanges getSysAddressRanges() const;
 
 private:
-  std::vector<std::pair<unsigned long, unsigned long>> sysAddresses;
+  IndexedPairs<unsigned long> sysAddresses;
   AddressIntervals sysAddressIntervals;
 };
 

@@ -91,26 +91,6 @@ bool TrafficPath::hasMultipleWritePhases() const
   return hasPhaseBesidesDefault(writePhases.perf);
 }
 
-void TrafficPath::addDestIdIdx(std::pair<unsigned char, unsigned char> startAndEnd)
-{
-  destIdIdxs.push_back(startAndEnd);
-}
-
-bool TrafficPath::hasValidDestIdIdx(int index) const
-{
-  return index >= 0 && static_cast<std::size_t>(index) < destIdIdxs.size();
-}
-
-unsigned char TrafficPath::getDestIdIdxStart(int index) const
-{
-  return hasValidDestIdIdx(index) ? destIdIdxs[index].first : 0;
-}
-
-unsigned char TrafficPath::getDestIdIdxEnd(int index) const
-{
-  return hasValidDestIdIdx(index) ? destIdIdxs[index].second : 0;
-}
-
 const TrafficNet* TrafficPath::getNet(int index) const
 {
   return index >= 0 && index < getNumNets() ? &nets[index] : nullptr;

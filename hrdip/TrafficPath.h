@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Definitions.h"
+#include "IndexedPairs.h"
 #include "TrafficAddressSpace.h"
 #include "TrafficNet.h"
 #include "ipconfig_hrdip_export.h"
@@ -79,10 +80,13 @@ public:
 
   // Ranges of destination identifier indexes, start and end. Walked from 0
   // until false.
-  void addDestIdIdx(std::pair<unsigned char, unsigned char> startAndEnd);
-  bool hasValidDestIdIdx(int index) const;
-  unsigned char getDestIdIdxStart(int index) const;
-  unsigned char getDestIdIdxEnd(int index) const;
+  void addDestIdIdx(std::pair<unsigned char, unsigned char> startAndEnd)
+  {
+    destIdIdxs.add(startAndEnd);
+  }
+  bool hasValidDestIdIdx(int index) const { return destIdIdxs.hasValid(index); }
+  unsigned char getDestIdIdxStart(int index) const { return destIdIdxs.first(index); }
+  unsigned char getDestIdIdxEnd(int index) const { return destIdIdxs.second(index); }
 
   // Null past the last net.
   const TrafficNet* getNet(int index) const;
@@ -108,7 +112,7 @@ private:
   unsigned short writeAvgBurst = 0;
   PhaseFigures readPhases;
   PhaseFigures writePhases;
-  std::vector<std::pair<unsigned char, unsigned char>> destIdIdxs;
+  IndexedPairs<unsigned char> destIdIdxs;
 };
 
 }  // namespace HrdIPToolCntr

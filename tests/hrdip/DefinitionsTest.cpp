@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <set>
 #include <sstream>
 #include <string>
@@ -93,24 +94,24 @@ struct Row {
   const char* text;
 };
 
+template <typename Enum, typename ToEnum>
+void expectBothWays(std::initializer_list<Row> rows, ToEnum toEnum)
+{
+  for (const Row& row : rows) {
+    EXPECT_EQ(toEnum(row.text), row.value) << row.text;
+    EXPECT_EQ(Defs::toStr(static_cast<Enum>(row.value)), row.text);
+  }
+}
+
 TEST(DefinitionsTest, SmallEnumerationsConvertBothWays)
 {
-  for (const Row& row : {Row{0, "BE"}, Row{1, "LL"}, Row{2, "ISOC"}, Row{3, "BW"}}) {
-    EXPECT_EQ(Defs::toTCEnum(row.text), row.value);
-    EXPECT_EQ(Defs::toStr(static_cast<Defs::TrafficClass>(row.value)), row.text);
-  }
-  for (const Row& row : {Row{1, "PORT0"}, Row{2, "PORT1"}, Row{4, "PORT2"}, Row{8, "PORT3"}}) {
-    EXPECT_EQ(Defs::toPtEnum(row.text), row.value);
-    EXPECT_EQ(Defs::toStr(static_cast<Defs::PORT_TYPE>(row.value)), row.text);
-  }
-  for (const Row& row : {Row{0, "AXI_STRM"}, Row{1, "AXI_MM"}}) {
-    EXPECT_EQ(Defs::toAxiProtEnum(row.text), row.value);
-    EXPECT_EQ(Defs::toStr(static_cast<Defs::AxiProt>(row.value)), row.text);
-  }
-  for (const Row& row : {Row{0, "strict"}, Row{1, "relaxed"}, Row{2, "doorbell"}}) {
-    EXPECT_EQ(Defs::toWriteOrderEnum(row.text), row.value);
-    EXPECT_EQ(Defs::toStr(static_cast<Defs::Write_Order>(row.value)), row.text);
-  }
+  expectBothWays<Defs::TrafficClass>({{0, "BE"}, {1, "LL"}, {2, "ISOC"}, {3, "BW"}},
+                                     Defs::toTCEnum);
+  expectBothWays<Defs::PORT_TYPE>({{1, "PORT0"}, {2, "PORT1"}, {4, "PORT2"}, {8, "PORT3"}},
+                                  Defs::toPtEnum);
+  expectBothWays<Defs::AxiProt>({{0, "AXI_STRM"}, {1, "AXI_MM"}}, Defs::toAxiProtEnum);
+  expectBothWays<Defs::Write_Order>({{0, "strict"}, {1, "relaxed"}, {2, "doorbell"}},
+                                    Defs::toWriteOrderEnum);
 }
 
 // Texts that read as a value without being its written form, and values

@@ -26,13 +26,19 @@ using HrdIPToolCntr::TrafficPath;
 using HrdIPToolCntr::TrafficSpec;
 namespace Defs = DevHrdIP::Definitions;
 
-// The member's value when it has the kind the schema gives it, else null.
-const JValue* arrayMember(const JValue& object, const char* key)
+// Calls `read` on each object of the array under `key`, if there is one.
+template <typename Read>
+void forEachObject(const JValue& object, const char* key, const Read& read)
 {
   const auto found = object.FindMember(key);
-  return found != object.MemberEnd() && found->value.IsArray() ? &found->value : nullptr;
+  if (found == object.MemberEnd() || !found->value.IsArray())
+    return;
+  for (const JValue& element : found->value.GetArray())
+    if (element.IsObject())
+      read(element);
 }
 
+// The member's value when it is an object, else null.
 const JValue* objectMember(const JValue& object, const char* key)
 {
   const auto found = object.FindMember(key);
@@ -60,10 +66,9 @@ unsigned long address(const JValue& object, const char* key)
 void readSysAddresses(const JValue& element, HrdIPToolCntr::TrafficAddressSpace& target)
 {
   if (hasMember(element, "SysAddresses")) {
-    if (const JValue* entries = arrayMember(element, "SysAddresses"))
-      for (const JValue& entry : entries->GetArray())
-        if (entry.IsObject())
-          target.addSysAddress({address(entry, "Base"), address(entry, "Size")});
+    forEachObject(element, "SysAddresses", [&](const JValue& entry) {
+      target.addSysAddress({address(entry, "Base"), address(entry, "Size")});
+    });
   } else if (hasMember(element, "SysAddress")) {
     target.addSysAddress(
         {Json::GetULongProperty(element, "SysAddress"),
@@ -73,11 +78,10 @@ void readSysAddresses(const JValue& element, HrdIPToolCntr::TrafficAddressSpace&
 
 void readRemap(const JValue& element, HrdIPToolCntr::TrafficAddressSpace& target)
 {
-  if (const JValue* entries = arrayMember(element, "Remap"))
-    for (const JValue& entry : entries->GetArray())
-      if (entry.IsObject())
-        target.addRemapAddrSpec(address(entry, "Logical"), address(entry, "Physical"),
-                                address(entry, "Range"));
+  forEachObject(element, "Remap", [&](const JValue& entry) {
+    target.addRemapAddrSpec(address(entry, "Logical"), address(entry, "Physical"),
+                            address(entry, "Range"));
+  });
 }
 
 template <typename Store>
@@ -167,9 +171,10 @@ bool NOCJsonTrafficSpecReader::readFromJsonFile(std::istream& in, const std::str
   status.setProgress(20.0);
   Context context{fileName, resolver, spec, {}};
   if (document.IsObject()) {
-    readLogicalInstances_(document, context);
+    forEachObject(document, "LogicalInstances",
+                  [&](const JValue& element) { readLogicalInstance_(element, context); });
     status.setProgress(40.0);
-    readPaths_(document, context);
+    forEachObject(document, "Paths", [&](const JValue& element) { readPath_(element, context); });
     readSystemProperties_(document, context);
   }
   status.setProgress(100.0);
@@ -195,14 +200,6 @@ bool NOCJsonTrafficSpecReader::readFromJsonFile(std::istream& in, const std::str
 bool NOCJsonTrafficSpecReader::enableDefaultSlv(HrdIPToolCntr::TrafficSpec& spec)
 {
   return spec.hasErrorSlave() || spec.addErrorSlaveAndRoutes();
-}
-
-void NOCJsonTrafficSpecReader::readLogicalInstances_(const JValue& root, Context& context)
-{
-  if (const JValue* elements = arrayMember(root, "LogicalInstances"))
-    for (const JValue& element : elements->GetArray())
-      if (element.IsObject())
-        readLogicalInstance_(element, context);
 }
 
 void NOCJsonTrafficSpecReader::readLogicalInstance_(const JValue& element, Context& context)
@@ -319,14 +316,6 @@ void NOCJsonTrafficSpecReader::readDestId_(const JValue& element, const Context&
   instance.destId = destId;
 }
 
-void NOCJsonTrafficSpecReader::readPaths_(const JValue& root, Context& context)
-{
-  if (const JValue* elements = arrayMember(root, "Paths"))
-    for (const JValue& element : elements->GetArray())
-      if (element.IsObject())
-        readPath_(element, context);
-}
-
 void NOCJsonTrafficSpecReader::readPath_(const JValue& element, Context& context)
 {
   const int phase = Json::GetIntegrProperty(element, "Phase");
@@ -362,10 +351,10 @@ void NOCJsonTrafficSpecReader::readPath_(const JValue& element, Context& context
   path.separateRoutingGroup = Json::GetStringProperty(element, "SeparateRoutingGroup");
   readDestIdIndex_(element, path);
   path.initialBoot = Json::GetBooleanProperty(element, "InitialBoot");
-  if (const JValue* ranges = arrayMember(element, "DestIdIdx"))
-    for (const JValue& range : ranges->GetArray())
-      path.addDestIdIdx({static_cast<unsigned char>(Json::GetIntegrProperty(range, "start_idx")),
-                         static_cast<unsigned char>(Json::GetIntegrProperty(range, "end_idx"))});
+  forEachObject(element, "DestIdIdx", [&](const JValue& range) {
+    path.addDestIdIdx({static_cast<unsigned char>(Json::GetIntegrProperty(range, "start_idx")),
+                       static_cast<unsigned char>(Json::GetIntegrProperty(range, "end_idx"))});
+  });
   path.highPriorityRouting = Json::GetBooleanProperty(element, "HighPriorityRouting");
   readPhaseGroups_(element, path);
   readSysAddresses(element, path);
@@ -410,17 +399,12 @@ void NOCJsonTrafficSpecReader::readDestIdIndex_(const JValue& element,
 void NOCJsonTrafficSpecReader::readPhaseGroups_(const JValue& element,
                                                 HrdIPToolCntr::TrafficPath& path)
 {
-  const JValue* groups = arrayMember(element, "PhaseGroups");
-  if (!groups)
-    return;
+  // A phase has no latency of its own: it takes the path's.
   const std::uint32_t readLatency = path.getReadPerfSpec().latency;
   const std::uint32_t writeLatency = path.getWritePerfSpec().latency;
-  for (const JValue& group : groups->GetArray()) {
+  forEachObject(element, "PhaseGroups", [&](const JValue& group) {
     const std::string groupName = Json::GetStringProperty(group, "Name");
-    const JValue* phases = group.IsObject() ? arrayMember(group, "Phases") : nullptr;
-    if (!phases)
-      continue;
-    for (const JValue& phase : phases->GetArray()) {
+    forEachObject(group, "Phases", [&](const JValue& phase) {
       const std::string phaseName = Json::GetStringProperty(phase, "Name");
       const auto figure = [&](const char* key) {
         return static_cast<std::uint32_t>(Json::GetULongProperty(phase, key));
@@ -429,8 +413,8 @@ void NOCJsonTrafficSpecReader::readPhaseGroups_(const JValue& element,
       path.setWritePerfSpec(groupName, phaseName, {Defs::BE, figure("WriteBW"), writeLatency});
       path.setReadAvgBurst(static_cast<unsigned short>(figure("ReadAvgBurst")), phaseName);
       path.setWriteAvgBurst(static_cast<unsigned short>(figure("WriteAvgBurst")), phaseName);
-    }
-  }
+    });
+  });
 }
 
 void NOCJsonTrafficSpecReader::readSystemProperties_(const JValue& root, Context& context)
