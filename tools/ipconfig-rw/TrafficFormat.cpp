@@ -30,7 +30,7 @@ int check(const std::vector<std::string>& args, std::ostream& out)
 Format trafficFormat()
 {
   return {"traffic",
-          "NoC traffic specification (read; schema traffic.json; may be compressed)",
+          "NoC traffic file (read; schema traffic.json; plain or compressed)",
           {
               {"check", {"FILE"}, "read FILE and summarise its instances, paths and phases",
                check},
