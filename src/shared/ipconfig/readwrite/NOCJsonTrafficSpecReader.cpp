@@ -30,6 +30,8 @@ namespace Defs = DevHrdIP::Definitions;
 template <typename Read>
 void forEachObject(const JValue& object, const char* key, const Read& read)
 {
+  if (!object.IsObject())
+    return;
   const auto found = object.FindMember(key);
   if (found == object.MemberEnd() || !found->value.IsArray())
     return;
@@ -41,6 +43,8 @@ void forEachObject(const JValue& object, const char* key, const Read& read)
 // The member's value when it is an object, else null.
 const JValue* objectMember(const JValue& object, const char* key)
 {
+  if (!object.IsObject())
+    return nullptr;
   const auto found = object.FindMember(key);
   return found != object.MemberEnd() && found->value.IsObject() ? &found->value : nullptr;
 }
@@ -170,13 +174,11 @@ bool NOCJsonTrafficSpecReader::readFromJsonFile(std::istream& in, const std::str
                           isl::iostreams::xp_autodetect());
   status.setProgress(20.0);
   Context context{fileName, resolver, spec, {}};
-  if (document.IsObject()) {
-    forEachObject(document, "LogicalInstances",
-                  [&](const JValue& element) { readLogicalInstance_(element, context); });
-    status.setProgress(40.0);
-    forEachObject(document, "Paths", [&](const JValue& element) { readPath_(element, context); });
-    readSystemProperties_(document, context);
-  }
+  forEachObject(document, "LogicalInstances",
+                [&](const JValue& element) { readLogicalInstance_(element, context); });
+  status.setProgress(40.0);
+  forEachObject(document, "Paths", [&](const JValue& element) { readPath_(element, context); });
+  readSystemProperties_(document, context);
   status.setProgress(100.0);
   return true;
 }
@@ -268,7 +270,8 @@ void NOCJsonTrafficSpecReader::readMasterProperties_(const JValue& element,
   instance.setNumReadOutstanding(low16(Json::GetIntegrProperty(element, "NumReadOutstanding")));
   instance.setNumWriteOutstanding(low16(Json::GetIntegrProperty(element, "NumWriteOutstanding")));
   // Written as doubles, read as integers: both sides stay as they are.
-  instance.setReadRateLimiter(static_cast<float>(Json::GetIntegrProperty(element, "ReadRateLimiter")));
+  instance.setReadRateLimiter(
+      static_cast<float>(Json::GetIntegrProperty(element, "ReadRateLimiter")));
   instance.setWriteRateLimiter(
       static_cast<float>(Json::GetIntegrProperty(element, "WriteRateLimiter")));
 }
