@@ -72,7 +72,8 @@ IPCONFIG_HRDIP_EXPORT COMP_TYPE toCompTypeEnum(const std::string& text);       /
 IPCONFIG_HRDIP_EXPORT SLV_COMP_TYPE toSlvCompTypeEnum(const std::string& text);  // unknown: 34
 IPCONFIG_HRDIP_EXPORT TrafficClass toTCEnum(const std::string& text);          // unknown: BE
 IPCONFIG_HRDIP_EXPORT PORT_TYPE toPtEnum(const std::string& text);             // unknown: 0
-IPCONFIG_HRDIP_EXPORT AxiProt toAxiProtEnum(const std::string& text);   // all but "AXI_STRM": AXI_MM
+// Every text but "AXI_STRM" reads as AXI_MM.
+IPCONFIG_HRDIP_EXPORT AxiProt toAxiProtEnum(const std::string& text);
 IPCONFIG_HRDIP_EXPORT Write_Order toWriteOrderEnum(const std::string& text);  // unknown: WO_INVALID
 
 // Value to text.

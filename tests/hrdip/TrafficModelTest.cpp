@@ -20,23 +20,24 @@ TEST(TrafficModelTest, InstancesFallIntoTablesByTheirType)
     Defs::COMP_TYPE type;
     TrafficLInst::Kind kind;
   };
+  const auto master = TrafficLInst::Kind::master;
+  const auto slave = TrafficLInst::Kind::slave;
+  const auto other = TrafficLInst::Kind::other;
   const Row rows[] = {
-      {Defs::PL_NMU, TrafficLInst::Kind::master},       {Defs::SVIP_NMU256_2, TrafficLInst::Kind::master},
-      {Defs::PS_RPU, TrafficLInst::Kind::master},       {Defs::QPE_TO_NOC_AXIMM, TrafficLInst::Kind::master},
-      {Defs::PL_NSU, TrafficLInst::Kind::slave},        {Defs::DDRC, TrafficLInst::Kind::slave},
-      {Defs::HBMMC_3, TrafficLInst::Kind::slave},       {Defs::DDR_0, TrafficLInst::Kind::slave},
-      {Defs::NOC_TO_QPE_AXIMM, TrafficLInst::Kind::slave}, {Defs::NPS, TrafficLInst::Kind::other},
-      {Defs::QPE_PL_SHIM, TrafficLInst::Kind::other},   {Defs::ZX_CORE, TrafficLInst::Kind::other},
+      {Defs::PL_NMU, master}, {Defs::SVIP_NMU256_2, master}, {Defs::PS_RPU, master},
+      {Defs::QPE_TO_NOC_AXIMM, master}, {Defs::PL_NSU, slave}, {Defs::DDRC, slave},
+      {Defs::HBMMC_3, slave}, {Defs::DDR_0, slave}, {Defs::NOC_TO_QPE_AXIMM, slave},
+      {Defs::NPS, other}, {Defs::QPE_PL_SHIM, other}, {Defs::ZX_CORE, other},
   };
   TrafficSpec spec;
   for (const Row& row : rows) {
     const std::string name = Defs::toStr(row.type);
     TrafficLInst* added = spec.addLogicalInstance(name, Defs::AXI_MM, row.type, {});
     EXPECT_EQ(TrafficLInst::kindOf(row.type), row.kind) << name;
-    EXPECT_EQ(added->isMaster, row.kind == TrafficLInst::Kind::master) << name;
-    EXPECT_EQ(spec.getLogicalMaster(name) == added, row.kind == TrafficLInst::Kind::master);
-    EXPECT_EQ(spec.getLogicalSlave(name) == added, row.kind == TrafficLInst::Kind::slave);
-    EXPECT_EQ(spec.getOthers().count(name), row.kind == TrafficLInst::Kind::other ? 1u : 0u);
+    EXPECT_EQ(added->isMaster, row.kind == master) << name;
+    EXPECT_EQ(spec.getLogicalMaster(name) == added, row.kind == master);
+    EXPECT_EQ(spec.getLogicalSlave(name) == added, row.kind == slave);
+    EXPECT_EQ(spec.getOthers().count(name), row.kind == other ? 1u : 0u);
     // Adding a name again gives the instance already there.
     EXPECT_EQ(spec.addLogicalInstance(name, Defs::AXI_STRM, row.type, {}), added);
   }
@@ -44,7 +45,9 @@ TEST(TrafficModelTest, InstancesFallIntoTablesByTheirType)
   spec.getAllLogicalInstance(all);
   ASSERT_EQ(all.size(), std::size(rows));
   EXPECT_EQ(all.front()->name, "PL_NMU");  // in the order added
-  EXPECT_EQ(spec.createNonTrafficSpecLogicalInstance("x", Defs::AXI_MM, Defs::PL_NSU, {}).name, "x");
+  const TrafficLInst outside =
+      spec.createNonTrafficSpecLogicalInstance("x", Defs::AXI_MM, Defs::PL_NSU, {});
+  EXPECT_EQ(outside.name, "x");
   EXPECT_EQ(spec.getLogicalSlave("x"), nullptr);
 }
 

@@ -125,7 +125,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "Path 'from' name is unknown: q"},
         FailureCase{"unknownTo", file(master + "," + slave, R"({"From": "m", "To": "t"})"),
                     "Path 'to' name is unknown: t"},
-        FailureCase{"wrongType", file(R"({"Name": "x", "IsMaster": 1})"), "/LogicalInstances/0/IsMaster"},
+        FailureCase{"wrongType", file(R"({"Name": "x", "IsMaster": 1})"),
+                    "/LogicalInstances/0/IsMaster"},
         FailureCase{"negativeBandwidth", file("", R"({}, {"ReadBW": -1})"), "/Paths/1/ReadBW"},
         FailureCase{"addressAsBoolean",
                     file(R"({"SysAddresses": [{"Base": true}]})"),
@@ -151,8 +152,9 @@ TEST_F(NOCJsonTrafficSpecReaderTest, DestIdsKeepTheirLow16BitsAndPresence)
                {"From": "m", "To": "s", "Port": "PORT0", "DestIdIndex": 65543},
                {"From": "m", "To": "s", "Port": "PORT0"})"));
   const auto& others = spec.getOthers();
-  EXPECT_EQ(std::make_pair(others.at("a")->hasDestId, others.at("a")->destId), std::make_pair(true, std::uint16_t(4095)));
-  EXPECT_EQ(std::make_pair(others.at("b")->hasDestId, others.at("b")->destId), std::make_pair(true, std::uint16_t(0)));
+  EXPECT_TRUE(others.at("a")->hasDestId && others.at("b")->hasDestId);
+  EXPECT_EQ(others.at("a")->destId, 4095);
+  EXPECT_EQ(others.at("b")->destId, 0);
   EXPECT_FALSE(others.at("c")->hasDestId);
   EXPECT_TRUE(spec.getPath(0)->hasDestIdIndex);
   EXPECT_EQ(spec.getPath(0)->destIdIndex, 0);
@@ -169,7 +171,8 @@ TEST_F(NOCJsonTrafficSpecReaderTest, AddressFormsGiveTheSameAddress)
                {"Name": "c", "CompType": "PL_NSU", "SysAddresses": [], "SysAddress": 1})"));
   const TrafficLInst& a = instance("a");
   for (int i = 0; i < 3; ++i)
-    EXPECT_EQ(std::make_pair(a.getSysAddress(i), a.getSysAddrSize(i)), std::make_pair(4096ul, 16ul)) << i;
+    EXPECT_EQ(std::make_pair(a.getSysAddress(i), a.getSysAddrSize(i)),
+              std::make_pair(4096ul, 16ul)) << i;
   EXPECT_FALSE(a.hasValidSysAddress(3));
   EXPECT_EQ(std::make_pair(instance("b").getSysAddress(0), instance("b").getSysAddrSize(0)),
             std::make_pair(4096ul, 16ul));
@@ -179,11 +182,15 @@ TEST_F(NOCJsonTrafficSpecReaderTest, AddressFormsGiveTheSameAddress)
 
 TEST_F(NOCJsonTrafficSpecReaderTest, KeysAreReadOnlyForTheirKindOfInstance)
 {
-  const std::string remap = R"("Remap": [{"Logical": "0x10", "Physical": "0x20", "Range": "0x30"}])";
-  const std::string memory = R"("Ports": ["PORT0", "PC1_PORT1"], "InterleaveSize": 65792, "InterleaveSel": 2)";
-  read(file(R"({"Name": "m", "IsMaster": true, "CompType": "PL_NMU", "SysAddresses": [{"Base": 1, "Size": 1}], )" + remap +
+  const std::string remap =
+      R"("Remap": [{"Logical": "0x10", "Physical": "0x20", "Range": "0x30"}])";
+  const std::string memory =
+      R"("Ports": ["PORT0", "PC1_PORT1"], "InterleaveSize": 65792, "InterleaveSel": 2)";
+  read(file(R"({"Name": "m", "IsMaster": true, "CompType": "PL_NMU",
+                "SysAddresses": [{"Base": 1, "Size": 1}], )" + remap +
                 R"(, "AxiDataWidth": 512, "ReadRateLimiter": 3, "NumReadOutstanding": 65537}, )"
-            R"({"Name": "s", "CompType": "PL_NSU", )" + remap + R"(, "ReadTC": "LL", "MemoryParams": [{"Name": "k", "Value": "1"}, {"Name": "k", "Value": "2"}]},
+            R"({"Name": "s", "CompType": "PL_NSU", )" + remap + R"(, "ReadTC": "LL",
+                "MemoryParams": [{"Name": "k", "Value": "1"}, {"Name": "k", "Value": "2"}]},
                {"Name": "ddr", "CompType": "DDRC", )" + memory + R"(},
                {"Name": "ddr6", "CompType": "DDR6", )" + memory + R"(},
                {"Name": "hbm", "CompType": "HBMMC", )" + memory + R"(},
@@ -213,7 +220,8 @@ TEST_F(NOCJsonTrafficSpecReaderTest, KeysAreReadOnlyForTheirKindOfInstance)
 TEST_F(NOCJsonTrafficSpecReaderTest, BadPortsAreReportedAndSkipped)
 {
   read(file(R"({"Name": "ddr", "CompType": "DDR5", "Ports": ["PORT4", "PORT2"]}, )" + master,
-            R"({"From": "m", "To": "ddr", "Port": "PORTERR"}, {"From": "m", "To": "ddr", "Port": "PORT2"})"));
+            R"({"From": "m", "To": "ddr", "Port": "PORTERR"},
+               {"From": "m", "To": "ddr", "Port": "PORT2"})"));
   expectSent({{"@73-30@%s%s", ComMsgMgr::CriticalWarning, {"PORT4", "ddr"}},
               {"@73-448@%s", ComMsgMgr::CriticalWarning, {"PORTERR"}}});
   EXPECT_EQ(instance("ddr").getPortTypes(), std::vector<Defs::PORT_TYPE>{Defs::PORT2});
@@ -225,7 +233,8 @@ TEST_F(NOCJsonTrafficSpecReaderTest, PathsTakeTheirFiguresPhasesAndMastersTraffi
 {
   read(file(master + "," + slave + R"(, {"Name": "n", "CompType": "NPS"},
             {"Name": "st", "IsMaster": true, "CompType": "QPE_NMU", "Protocol": "AXI_STRM"})",
-            R"({"From": "m", "To": "s", "Port": "PORT0", "ReadTC": "LL", "ReadBW": 10, "ReadLatency": 5,
+            R"({"From": "m", "To": "s", "Port": "PORT0", "ReadTC": "LL",
+                "ReadBW": 10, "ReadLatency": 5,
                 "WriteBW": 4294967297, "WriteLatency": 6, "WriteOrder": "doorbell",
                 "PhaseGroups": [{"Name": "G", "Phases": [
                   {"Name": "P2", "ReadBW": 30, "WriteBW": 0, "ReadAvgBurst": 65540},
@@ -295,7 +304,8 @@ TEST_F(NOCJsonTrafficSpecReaderTest, CompressedFileReadsLikeThePlainOne)
   NOC::NOCJsonTrafficSpecReader reader;
   reader.readFromJsonFile(IPCONFIG_RW_EXAMPLES_DIR "/traffic.json", plain, status);
   reader.readFromJsonFile(IPCONFIG_RW_EXAMPLES_DIR "/traffic.json.gz", spec, status);
-  EXPECT_EQ(status.getStatusText(), "Reading Traffic File " IPCONFIG_RW_EXAMPLES_DIR "/traffic.json.gz");
+  EXPECT_EQ(status.getStatusText(),
+            "Reading Traffic File " IPCONFIG_RW_EXAMPLES_DIR "/traffic.json.gz");
   EXPECT_EQ(spec.getNumPaths(), plain.getNumPaths());
   EXPECT_EQ(spec.getMasters().size(), plain.getMasters().size());
   EXPECT_EQ(spec.getDfxPaths(), plain.getDfxPaths());
