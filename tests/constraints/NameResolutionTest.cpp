@@ -115,6 +115,22 @@ TEST(PortRenamerTest, RenamesNamesListsAndProperties)
   ConstrPropertiesMap props{{"a", {true}}, {"b", {false}}, {"c", {false}}, {"q", {true}}};
   renamer.renameConstrObjectProperties(props);
   EXPECT_EQ(props, (ConstrPropertiesMap{{"c", {true}}, {"q", {true}}}));
+
+  // A move onto a name that the walk has passed is not moved again; a swap
+  // ends where the walk leaves it.
+  struct Walk {
+    PortRenamer::RenameMap renames;
+    ConstrPropertiesMap before;
+    ConstrPropertiesMap after;
+  };
+  const Walk walks[] = {
+      {{{"a", "z"}, {"b", "a"}}, {{"b", {true}}}, {{"a", {true}}}},
+      {{{"a", "b"}, {"b", "a"}}, {{"a", {true}}, {"b", {false}}}, {{"a", {true}}}},
+  };
+  for (Walk walk : walks) {
+    PortRenamer::renameConstrObjectProperties(walk.renames, walk.before);
+    EXPECT_EQ(walk.before, walk.after);
+  }
 }
 
 }  // namespace

@@ -169,7 +169,7 @@ std::string BaseConstraint::str() const
 
 void BaseConstraint::renamePorts(const std::map<std::string, std::string>& oldToNew)
 {
-  PortRenamer(oldToNew).renamePortObject(this);
+  PortRenamer::renamePortObject(oldToNew, this);
 }
 
 void BaseConstraint::copySrcInfoFrom(const BaseConstraint* other)

@@ -12,9 +12,15 @@ namespace qpe::constraints {
 class BaseConstraint;
 
 // Applies a map of old to new port names to constraints.
+//
+// Each operation also comes as a static form over a map that the caller
+// keeps: a store renames every constraint with one map, and must not copy it
+// once per constraint.
 class IPCONFIG_READWRITE_EXPORT PortRenamer {
 public:
-  explicit PortRenamer(const std::map<std::string, std::string>& oldToNew);
+  using RenameMap = std::map<std::string, std::string>;
+
+  explicit PortRenamer(const RenameMap& oldToNew);
 
   // The mapped name, or `oldName` itself.
   std::string getNewPortName(const std::string& oldName) const;
@@ -28,8 +34,15 @@ public:
   // overwriting what stands there.
   void renameConstrObjectProperties(ConstrPropertiesMap& properties) const;
 
+  static std::string getNewPortName(const RenameMap& oldToNew, const std::string& oldName);
+  static void getNewPortNames(const RenameMap& oldToNew, const std::vector<std::string>& oldNames,
+                              std::vector<std::string>& newNames);
+  static void renamePortObject(const RenameMap& oldToNew, BaseConstraint* constr);
+  static void renameConstrObjectProperties(const RenameMap& oldToNew,
+                                           ConstrPropertiesMap& properties);
+
 private:
-  std::map<std::string, std::string> oldToNew;
+  RenameMap oldToNew;
 };
 
 }  // namespace qpe::constraints
