@@ -1,5 +1,7 @@
 #include "ConstrCast.h"
 
+#include "AttrConstr.h"
+
 namespace qpe::constraints {
 
 // The kinds not built yet give null.
@@ -74,9 +76,9 @@ const StreamChannelConstr* ConstrCast::toStreamChannel(const BaseConstraint* con
   return toStreamChannel(const_cast<BaseConstraint*>(constr));
 }
 
-AttrConstr* ConstrCast::toAttr(BaseConstraint*)
+AttrConstr* ConstrCast::toAttr(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<AttrConstr>(constr, BaseConstraint::Attr);
 }
 
 const AttrConstr* ConstrCast::toAttr(const BaseConstraint* constr)

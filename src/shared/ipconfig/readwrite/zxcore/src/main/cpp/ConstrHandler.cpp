@@ -1,0 +1,540 @@
+#include "ConstrHandler.h"
+
+#include "BaseNameResolver.h"
+#include "BaseVisitor.h"
+#include "ConstBaseVisitor.h"
+#include "ConstrCast.h"
+#include "ConstrUtils.h"
+#include "HEXAlgException.h"
+#include "PortRenamer.h"
+
+#include <boost/algorithm/string/predicate.hpp>
+#include <boost/range/adaptor/filtered.hpp>
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <utility>
+
+namespace qpe::constraints {
+
+namespace {
+
+bool isGroup(BaseConstraint::ConstrType constrType)
+{
+  return constrType >= BaseConstraint::AreaGroup;
+}
+
+HEXAlgException unsupportedType(const char* operation, BaseConstraint::ConstrType constrType)
+{
+  return HEXAlgException(std::string("ConstrHandler::") + operation +
+                         "() - this function does not support creating constraints of type '" +
+                         BaseConstraint::getConstrTypeAsStr(constrType) + "'");
+}
+
+bool removeFirst(ConstrHandler::Constrs& constrs, const BaseConstraint* constr)
+{
+  const auto found = std::find(constrs.begin(), constrs.end(), constr);
+  if (found == constrs.end())
+    return false;
+  constrs.erase(found);
+  return true;
+}
+
+}  // namespace
+
+template <typename Kind, typename... Args>
+Kind* ConstrHandler::make_(Args&&... args)
+{
+  auto constr = std::make_unique<Kind>(std::forward<Args>(args)...);
+  Kind* made = constr.get();
+  addConstraint(constr.release());
+  return made;
+}
+
+void ConstrHandler::destroy_(BaseConstraint* constr)
+{
+  delete constr;
+}
+
+const ConstrHandler::Constrs* ConstrHandler::entry_(const std::string& objName) const
+{
+  const auto entry = objects.find(objName);
+  return entry == objects.end() ? nullptr : &entry->second;
+}
+
+template <typename Kind>
+Kind* ConstrHandler::firstOfKind_(const std::string& objName,
+                                  Kind* (*cast)(BaseConstraint*)) const
+{
+  if (const Constrs* entry = entry_(objName))
+    for (BaseConstraint* constr : *entry)
+      if (Kind* kind = cast(constr))
+        return kind;
+  return nullptr;
+}
+
+template <typename Kind>
+Kind* ConstrHandler::firstGroup_(ConstrType groupType, const std::string& name,
+                                 Kind* (*cast)(BaseConstraint*)) const
+{
+  const auto entry = groups.find(name);
+  if (entry != groups.end())
+    for (BaseConstraint* constr : entry->second)
+      if (constr->getConstrType() == groupType)
+        return cast(constr);
+  return nullptr;
+}
+
+template <typename Find, typename Create>
+auto ConstrHandler::findOrCreate_(const std::string& objName, Find find, Create create)
+{
+  decltype(find()) constr = nullptr;
+  if (!objName.empty()) {
+    constr = find();
+    if (!constr)
+      constr = create();
+  }
+  return constr;
+}
+
+template <typename Value>
+void ConstrHandler::setAttr_(ObjectType objType, const std::string& objName,
+                             const std::string& attrName, AttrConstr::AttrType type, Value value)
+{
+  if (attrName.empty())
+    return;
+  AttrConstr* attr = findOrCreate_(
+      objName, [&] { return getAttrConstr(objName, attrName); },
+      [&] { return createAttrConstr(objType, objName, type, attrName); });
+  if (attr)
+    attr->setVal(value);
+}
+
+void ConstrHandler::getAllConstrained_(ObjectType objType, std::vector<std::string>& out) const
+{
+  const auto ofType = [objType](const BaseConstraint* constr) {
+    return constr->getObjType() == objType;
+  };
+  const auto filtered = boost::adaptors::filter(constrs, ofType);
+  getUniqueObjNames(filtered.begin(), filtered.end(), out);
+}
+
+void ConstrHandler::copy_(const ConstrHandler& from, const BaseNameResolver* resolver)
+{
+  // A copy of the list, since `from` may be this handler.
+  const Constrs sources = from.getConstrs();
+  for (const BaseConstraint* constr : sources)
+    constr->clone(*this, resolver);
+  records.copy(from);
+}
+
+void ConstrHandler::unfile_(Index& index, const std::string& name, const BaseConstraint* constr)
+{
+  if (removeFirst(index[name], constr))
+    return;
+  // Filed under another name: renamePorts moves entries by name, and an
+  // entry can hold constraints of other objects of the old name.
+  for (auto& entry : index)
+    if (removeFirst(entry.second, constr))
+      return;
+}
+
+ConstrHandler::ConstrHandler() = default;
+
+ConstrHandler::~ConstrHandler()
+{
+  ConstrHandler::clear();
+}
+
+void ConstrHandler::clear()
+{
+  Constrs doomed;
+  doomed.swap(constrs);
+  objects.clear();
+  groups.clear();
+  for (BaseConstraint* constr : doomed)
+    destroy_(constr);
+  records.clear();
+}
+
+bool ConstrHandler::empty() const
+{
+  return constrs.empty();
+}
+
+std::size_t ConstrHandler::size() const
+{
+  return constrs.size();
+}
+
+void ConstrHandler::unload(const BaseConstraint* constr)
+{
+  if (!constr)
+    return;
+  const auto owned = std::find(constrs.begin(), constrs.end(), constr);
+  if (owned == constrs.end())
+    return;
+  BaseConstraint* doomed = *owned;
+  constrs.erase(owned);
+  unfile_(objects, doomed->getObjName(), doomed);
+  if (isGroup(doomed->getConstrType()))
+    unfile_(groups, doomed->getObjName(), doomed);
+  destroy_(doomed);
+}
+
+const ConstrHandler::Constrs& ConstrHandler::getConstrs() const
+{
+  return constrs;
+}
+
+void ConstrHandler::getConstrs(Constrs& out) const
+{
+  out = constrs;
+}
+
+void ConstrHandler::getConstrs(const std::string& objName, Constrs& out) const
+{
+  const Constrs* entry = entry_(objName);
+  if (entry && !entry->empty())
+    out = *entry;
+}
+
+void ConstrHandler::getConstrs(ObjectType objType, Constrs& out) const
+{
+  out.clear();
+  for (BaseConstraint* constr : constrs)
+    if (constr->getObjType() == objType)
+      out.push_back(constr);
+}
+
+void ConstrHandler::getConstrs(const std::string& objName, const std::string& constrName,
+                               Constrs& out) const
+{
+  const Constrs* entry = entry_(objName);
+  if (!entry)
+    return;
+  out.clear();
+  for (BaseConstraint* constr : *entry)
+    if (boost::algorithm::iequals(constr->getConstrName(), constrName))
+      out.push_back(constr);
+}
+
+BaseConstraint* ConstrHandler::getConstr(const std::string& objName, ConstrType constrType) const
+{
+  if (const Constrs* entry = entry_(objName))
+    for (BaseConstraint* constr : *entry)
+      if (constr->getConstrType() == constrType)
+        return constr;
+  return nullptr;
+}
+
+BaseConstraint* ConstrHandler::getConstr(const std::string& objName,
+                                         const std::string& constrName) const
+{
+  const Constrs* entry = entry_(objName);
+  if (!entry)
+    return nullptr;
+  // One walk for both names: the given name wins over the canonical one.
+  const std::string canonical = AttrConstr::makeCanonicalAttrName(constrName);
+  BaseConstraint* byCanonical = nullptr;
+  for (BaseConstraint* constr : *entry) {
+    if (boost::algorithm::iequals(constr->getConstrName(), constrName))
+      return constr;
+    if (!byCanonical && boost::algorithm::iequals(constr->getConstrName(), canonical))
+      byCanonical = constr;
+  }
+  return byCanonical;
+}
+
+void ConstrHandler::getConstrs(const std::string& objName, ConstrType constrType,
+                               Constrs& out) const
+{
+  const Constrs* entry = entry_(objName);
+  if (!entry)
+    return;
+  out.clear();
+  for (BaseConstraint* constr : *entry)
+    if (constr->getConstrType() == constrType)
+      out.push_back(constr);
+}
+
+BufferConstr* ConstrHandler::getBufferConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toBuffer);
+}
+
+ColocatedNodesConstr* ConstrHandler::getColocatedNodesConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toColocatedNodes);
+}
+
+RelativeNodesConstr* ConstrHandler::getRelativeNodesConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toRelativeNodes);
+}
+
+ColocatedPortsConstr* ConstrHandler::getColocatedPortsConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toColocatedPorts);
+}
+
+ColocatedDmaConstr* ConstrHandler::getColocatedDmaConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toColocatedDma);
+}
+
+ColocatedMemoriesConstr* ConstrHandler::getColocatedMemoriesConstr(
+    const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toColocatedMemories);
+}
+
+ReservedMemoryConstr* ConstrHandler::getReservedMemoryConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toReservedMemory);
+}
+
+FifoLocationsConstr* ConstrHandler::getFifoLocationsConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toFifoLocations);
+}
+
+TileConstr* ConstrHandler::getTileConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toTile);
+}
+
+MemConstr* ConstrHandler::getMemConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toMem);
+}
+
+ShimConstr* ConstrHandler::getShimConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toShim);
+}
+
+PortLocConstr* ConstrHandler::getPortLocConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toPortLoc);
+}
+
+StreamChannelConstr* ConstrHandler::getStreamChannelConstr(const std::string& objName) const
+{
+  return firstOfKind_(objName, &ConstrCast::toStreamChannel);
+}
+
+AttrConstr* ConstrHandler::getAttrConstr(const std::string& objName,
+                                         const std::string& attrName) const
+{
+  if (attrName.empty())
+    throw HEXAlgException("ConstrHandler::get() - attrName must be specified when T == AttrConstr");
+  return ConstrCast::toAttr(getConstr(objName, AttrConstr::makeCanonicalAttrName(attrName)));
+}
+
+AreaGroupConstr* ConstrHandler::getAreaGroupConstr(const std::string& name) const
+{
+  return firstGroup_(BaseConstraint::AreaGroup, name, &ConstrCast::toAreaGroup);
+}
+
+InstGroupConstr* ConstrHandler::getInstGroupConstr(const std::string& name) const
+{
+  return firstGroup_(BaseConstraint::InstGroup, name, &ConstrCast::toInstGroup);
+}
+
+DependentRoutingGroupConstr* ConstrHandler::getDependentRoutingGroupConstr(
+    const std::string& name) const
+{
+  return firstGroup_(BaseConstraint::DependentRoutingGroup, name,
+                     &ConstrCast::toDependentRoutingGroup);
+}
+
+IsomorphicGraphGroupConstr* ConstrHandler::getIsomorphicGraphGroupConstr(
+    const std::string& name) const
+{
+  return firstGroup_(BaseConstraint::IsomorphicGraphGroup, name,
+                     &ConstrCast::toIsomorphicGraphGroup);
+}
+
+const FifoLocationsRecord* ConstrHandler::getFifoLocationsRecord(const std::string& name) const
+{
+  return records.get(name);
+}
+
+const FifoLocationsRecords& ConstrHandler::getFifoLocationsRecords() const
+{
+  return records;
+}
+
+const FifoLocationsRecords& ConstrHandler::getRecords() const
+{
+  return records;
+}
+
+FifoLocationsRecords& ConstrHandler::getRecords()
+{
+  return records;
+}
+
+void ConstrHandler::setAttrConstr(ObjectType objType, const std::string& objName,
+                                  const std::string& attrName, bool value)
+{
+  setAttr_(objType, objName, attrName, HATAttrTypes::AttrBool, value);
+}
+
+void ConstrHandler::setAttrConstr(ObjectType objType, const std::string& objName,
+                                  const std::string& attrName, int value)
+{
+  setAttr_(objType, objName, attrName, HATAttrTypes::AttrInt, value);
+}
+
+void ConstrHandler::setAttrConstr(ObjectType objType, const std::string& objName,
+                                  const std::string& attrName, double value)
+{
+  setAttr_(objType, objName, attrName, HATAttrTypes::AttrDouble, value);
+}
+
+void ConstrHandler::setAttrConstr(ObjectType objType, const std::string& objName,
+                                  const std::string& attrName, const std::string& value)
+{
+  setAttr_(objType, objName, attrName, HATAttrTypes::AttrString, value);
+}
+
+void ConstrHandler::setAttrConstr(ObjectType objType, const std::string& objName,
+                                  const std::string& attrName, const char* value)
+{
+  setAttrConstr(objType, objName, attrName, std::string(value));
+}
+
+const DmaFifoRecord* ConstrHandler::addDmaFifoRecord(const std::string& name,
+                                                     PhysicalSpec::PhysicalType tileType,
+                                                     int column, int row, int size, int offset,
+                                                     int bankId)
+{
+  return records.addDmaFifoRecord(name, tileType, column, row, size, offset, bankId);
+}
+
+const StreamFifoRecord* ConstrHandler::addStreamFifoRecord(const std::string& name,
+                                                           PhysicalSpec::PhysicalType tileType,
+                                                           int column, int row, int channel)
+{
+  return records.addStreamFifoRecord(name, tileType, column, row, channel);
+}
+
+void ConstrHandler::copy(const ConstrHandler& from, const BaseNameResolver& resolver)
+{
+  copy_(from, &resolver);
+}
+
+void ConstrHandler::copy(const ConstrHandler& from)
+{
+  copy_(from, nullptr);
+}
+
+void ConstrHandler::accept(BaseVisitor& visitor) const
+{
+  // By position, so that a visitor that adds constraints cannot invalidate the walk.
+  for (std::size_t i = 0; i < constrs.size(); ++i)
+    visitor.visit(constrs[i]);
+}
+
+void ConstrHandler::accept(ConstBaseVisitor& visitor) const
+{
+  for (std::size_t i = 0; i < constrs.size(); ++i)
+    visitor.visit(constrs[i]);
+}
+
+void ConstrHandler::getAllConstrainedNodes(std::vector<std::string>& out) const
+{
+  getAllConstrained_(BaseConstraint::NODE, out);
+}
+
+void ConstrHandler::getAllConstrainedPorts(std::vector<std::string>& out) const
+{
+  getAllConstrained_(BaseConstraint::PORT, out);
+}
+
+void ConstrHandler::getAllConstrainedNets(std::vector<std::string>& out) const
+{
+  getAllConstrained_(BaseConstraint::NET, out);
+}
+
+void ConstrHandler::addConstraint(BaseConstraint* constr)
+{
+  if (!constr)
+    return;
+  constrs.push_back(constr);
+  const std::string name = constr->getObjName();
+  objects[name].push_back(constr);
+  if (isGroup(constr->getConstrType()))
+    groups[name].push_back(constr);
+}
+
+BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType,
+                                            const std::string&)
+{
+  throw unsupportedType("createConstr", constrType);
+}
+
+BaseConstraint* ConstrHandler::createGlobalConstr(ConstrType constrType, const std::string&)
+{
+  throw unsupportedType("createGlobalConstr", constrType);
+}
+
+AttrConstr* ConstrHandler::createAttrConstr(ObjectType objType, const std::string& objName,
+                                            AttrConstr::AttrType type,
+                                            const std::string& attrName)
+{
+  if (objName.empty() || attrName.empty())
+    return nullptr;
+  return make_<AttrConstr>(objType, objName, type, AttrConstr::makeCanonicalAttrName(attrName));
+}
+
+bool ConstrHandler::isParent() const
+{
+  return true;
+}
+
+bool ConstrHandler::isToolGenerated() const
+{
+  return false;
+}
+
+bool ConstrHandler::isSoft() const
+{
+  return false;
+}
+
+void ConstrHandler::isParent(bool) {}
+
+void ConstrHandler::isToolGenerated(bool) {}
+
+void ConstrHandler::isSoft(bool) {}
+
+ConstrHandler* ConstrHandler::getChildCstHandler(bool) const
+{
+  return nullptr;
+}
+
+void ConstrHandler::dump() const
+{
+  for (const BaseConstraint* constr : constrs)
+    std::cout << constr->str() << std::endl;
+}
+
+void ConstrHandler::renamePorts(const std::map<std::string, std::string>& oldToNew)
+{
+  for (std::size_t i = 0; i < constrs.size(); ++i)
+    constrs[i]->renamePorts(oldToNew);
+  for (const auto& [oldName, newName] : oldToNew) {
+    const auto entry = objects.find(oldName);
+    if (entry == objects.end() || entry->second.empty())
+      continue;
+    Constrs moved = std::move(entry->second);
+    objects.erase(entry);
+    objects[newName] = std::move(moved);
+  }
+}
+
+}  // namespace qpe::constraints

@@ -1,0 +1,191 @@
+#pragma once
+
+#include "AttrConstr.h"
+#include "BaseConstraint.h"
+#include "ConstrForward.h"
+#include "FifoLocationsRecords.h"
+#include "PhysicalSpec.h"
+#include "ipconfig_readwrite_export.h"
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace qpe::constraints {
+
+class BaseNameResolver;
+class BaseVisitor;
+class ConstBaseVisitor;
+
+// The store of all constraints of one design, and the face of the framework:
+// it creates and owns the constraints, indexes them by object name, answers
+// what is constrained, and holds the FIFO records. Every public operation
+// that is not marked plain is virtual, so that a host can derive a handler of
+// its own; the parent and child operations are hooks for that.
+class IPCONFIG_READWRITE_EXPORT ConstrHandler {
+public:
+  using ObjectType = BaseConstraint::ObjectType;
+  using ConstrType = BaseConstraint::ConstrType;
+  using Constrs = std::vector<BaseConstraint*>;
+
+  ConstrHandler();
+  ConstrHandler(const ConstrHandler&) = delete;
+  ConstrHandler& operator=(const ConstrHandler&) = delete;
+
+  // Lifecycle.
+
+  // Deletes the constraints still held.
+  virtual ~ConstrHandler();
+  // Deletes every constraint and record.
+  virtual void clear();
+  // No constraint; FIFO records do not count.
+  virtual bool empty() const;
+  virtual std::size_t size() const;
+  // Deletes a constraint of this handler; its object keeps an empty index
+  // entry. Null and constraints of other handlers are ignored.
+  virtual void unload(const BaseConstraint* constr);
+
+  // Queries. Unknown objects leave `out` as it was.
+
+  // All constraints in creation order.
+  virtual const Constrs& getConstrs() const;
+  virtual void getConstrs(Constrs& out) const;
+  // The object's constraints in creation order; an object without any leaves
+  // `out` as it was.
+  virtual void getConstrs(const std::string& objName, Constrs& out) const;
+  virtual void getConstrs(ObjectType objType, Constrs& out) const;
+  // The object's constraints of that constraint name, in any case.
+  virtual void getConstrs(const std::string& objName, const std::string& constrName,
+                          Constrs& out) const;
+  virtual BaseConstraint* getConstr(const std::string& objName, ConstrType constrType) const;
+  // By constraint name in any case, else by the canonical attribute name made
+  // of it: "tile" finds "qpe.tile", "fifo_depth" finds "QPE.FIFO_DEPTH".
+  virtual BaseConstraint* getConstr(const std::string& objName,
+                                    const std::string& constrName) const;
+  // Plain. The object's constraints of that type.
+  void getConstrs(const std::string& objName, ConstrType constrType, Constrs& out) const;
+
+  // Plain. The object's first constraint of the kind, or null; each is null
+  // until its kind's cast exists.
+  BufferConstr* getBufferConstr(const std::string& objName) const;
+  ColocatedNodesConstr* getColocatedNodesConstr(const std::string& objName) const;
+  RelativeNodesConstr* getRelativeNodesConstr(const std::string& objName) const;
+  ColocatedPortsConstr* getColocatedPortsConstr(const std::string& objName) const;
+  ColocatedDmaConstr* getColocatedDmaConstr(const std::string& objName) const;
+  ColocatedMemoriesConstr* getColocatedMemoriesConstr(const std::string& objName) const;
+  ReservedMemoryConstr* getReservedMemoryConstr(const std::string& objName) const;
+  FifoLocationsConstr* getFifoLocationsConstr(const std::string& objName) const;
+  TileConstr* getTileConstr(const std::string& objName) const;
+  MemConstr* getMemConstr(const std::string& objName) const;
+  ShimConstr* getShimConstr(const std::string& objName) const;
+  PortLocConstr* getPortLocConstr(const std::string& objName) const;
+  StreamChannelConstr* getStreamChannelConstr(const std::string& objName) const;
+  // Plain. Throws HEXAlgException for an empty `attrName`.
+  AttrConstr* getAttrConstr(const std::string& objName, const std::string& attrName) const;
+  // Plain. The first group of the kind created under exactly that name.
+  AreaGroupConstr* getAreaGroupConstr(const std::string& name) const;
+  InstGroupConstr* getInstGroupConstr(const std::string& name) const;
+  DependentRoutingGroupConstr* getDependentRoutingGroupConstr(const std::string& name) const;
+  IsomorphicGraphGroupConstr* getIsomorphicGraphGroupConstr(const std::string& name) const;
+  // Plain. The FIFO records.
+  const FifoLocationsRecord* getFifoLocationsRecord(const std::string& name) const;
+  const FifoLocationsRecords& getFifoLocationsRecords() const;
+  const FifoLocationsRecords& getRecords() const;
+  FifoLocationsRecords& getRecords();
+
+  // Attributes: nothing for an empty object or attribute name. The attribute
+  // is created with the type of the value if the object has none of that name.
+  virtual void setAttrConstr(ObjectType objType, const std::string& objName,
+                             const std::string& attrName, bool value);
+  virtual void setAttrConstr(ObjectType objType, const std::string& objName,
+                             const std::string& attrName, int value);
+  virtual void setAttrConstr(ObjectType objType, const std::string& objName,
+                             const std::string& attrName, double value);
+  virtual void setAttrConstr(ObjectType objType, const std::string& objName,
+                             const std::string& attrName, const std::string& value);
+  // Plain. A text literal is a string, not a bool.
+  void setAttrConstr(ObjectType objType, const std::string& objName, const std::string& attrName,
+                     const char* value);
+
+  // FIFO records, forwarded to the table.
+  virtual const DmaFifoRecord* addDmaFifoRecord(const std::string& name,
+                                                PhysicalSpec::PhysicalType tileType, int column,
+                                                int row, int size, int offset, int bankId);
+  virtual const StreamFifoRecord* addStreamFifoRecord(const std::string& name,
+                                                      PhysicalSpec::PhysicalType tileType,
+                                                      int column, int row, int channel);
+
+  // Clones every constraint of `from` into this handler through the set and
+  // add operations, so that they merge into what is here, then copies the
+  // FIFO records. Names pass through `resolver`.
+  virtual void copy(const ConstrHandler& from, const BaseNameResolver& resolver);
+  virtual void copy(const ConstrHandler& from);
+  // visit() on each constraint in creation order.
+  virtual void accept(BaseVisitor& visitor) const;
+  virtual void accept(ConstBaseVisitor& visitor) const;
+  // Names of constrained objects of the type, each once, in order of first appearance.
+  virtual void getAllConstrainedNodes(std::vector<std::string>& out) const;
+  virtual void getAllConstrainedPorts(std::vector<std::string>& out) const;
+  virtual void getAllConstrainedNets(std::vector<std::string>& out) const;
+  // Takes ownership of `constr` and files it under its object name; null is ignored.
+  virtual void addConstraint(BaseConstraint* constr);
+  // A new constraint of a kind on a node, port or net, owned by this handler.
+  // Throws HEXAlgException for the kinds that it does not create.
+  virtual BaseConstraint* createConstr(ConstrType constrType, ObjectType objType,
+                                       const std::string& objName);
+  // A new, empty group. Throws HEXAlgException for the kinds that it does not create.
+  virtual BaseConstraint* createGlobalConstr(ConstrType constrType, const std::string& name);
+  // A new, unset attribute under its canonical name; null for an empty name.
+  virtual AttrConstr* createAttrConstr(ObjectType objType, const std::string& objName,
+                                       AttrConstr::AttrType type, const std::string& attrName);
+  // A base handler is a parent with no children; a host's handler overrides these.
+  virtual bool isParent() const;
+  virtual bool isToolGenerated() const;
+  virtual bool isSoft() const;
+  virtual void isParent(bool parent);
+  virtual void isToolGenerated(bool toolGenerated);
+  virtual void isSoft(bool soft);
+  // The child that holds tool-generated constraints, hard or soft; null here.
+  virtual ConstrHandler* getChildCstHandler(bool soft) const;
+
+  // Plain. str() of each constraint on a line of standard output.
+  void dump() const;
+  // Plain. Renames the port objects of the constraints, then moves each old
+  // name's index entry to the new name.
+  void renamePorts(const std::map<std::string, std::string>& oldToNew);
+
+private:
+  using Index = std::unordered_map<std::string, Constrs>;
+
+  // The only places where constraints are made and deleted.
+  template <typename Kind, typename... Args>
+  Kind* make_(Args&&... args);
+  static void destroy_(BaseConstraint* constr);
+
+  const Constrs* entry_(const std::string& objName) const;
+  template <typename Kind>
+  Kind* firstOfKind_(const std::string& objName, Kind* (*cast)(BaseConstraint*)) const;
+  template <typename Kind>
+  Kind* firstGroup_(ConstrType groupType, const std::string& name,
+                    Kind* (*cast)(BaseConstraint*)) const;
+  // The set shape: nothing for an empty name; the constraint that `find`
+  // gives, else the one that `create` makes.
+  template <typename Find, typename Create>
+  static auto findOrCreate_(const std::string& objName, Find find, Create create);
+  template <typename Value>
+  void setAttr_(ObjectType objType, const std::string& objName, const std::string& attrName,
+                AttrConstr::AttrType type, Value value);
+  void getAllConstrained_(ObjectType objType, std::vector<std::string>& out) const;
+  void copy_(const ConstrHandler& from, const BaseNameResolver* resolver);
+  static void unfile_(Index& index, const std::string& name, const BaseConstraint* constr);
+
+  FifoLocationsRecords records;
+  Constrs constrs;
+  Index objects;
+  // The groups by their own name, which renamePorts leaves alone.
+  Index groups;
+};
+
+}  // namespace qpe::constraints

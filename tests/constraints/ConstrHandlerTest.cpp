@@ -1,0 +1,341 @@
+#include "TestSupport.h"
+
+#include "AttrConstr.h"
+#include "BaseNameResolver.h"
+#include "BaseVisitor.h"
+#include "ConstBaseVisitor.h"
+#include "ConstrCast.h"
+#include "ConstrHandler.h"
+#include "HEXAlgException.h"
+
+#include <functional>
+
+namespace {
+
+using namespace qpe::constraints;
+using Base = BaseConstraint;
+using Constrs = ConstrHandler::Constrs;
+using Names = std::vector<std::string>;
+
+void expectRefused(const std::function<void()>& action, const std::string& text)
+{
+  try {
+    action();
+    ADD_FAILURE() << "expected: " << text;
+  } catch (const HEXAlgException& refusal) {
+    EXPECT_EQ(refusal.what(), text);
+  }
+}
+
+TEST(ConstrHandlerTest, SetReplacesTheValueOfOneAttributePerCanonicalName)
+{
+  ConstrHandler handler;
+  handler.setAttrConstr(Base::NODE, "n", "qpe.utilization", 0.5);
+  handler.setAttrConstr(Base::NODE, "n", "UTILIZATION", 0.75);
+  handler.setAttrConstr(Base::NODE, "n", "Foo", 1);
+  handler.setAttrConstr(Base::PORT, "p", "label", "x");
+  ASSERT_EQ(handler.size(), 3u);
+  EXPECT_EQ(handler.getAttrConstr("n", "Utilization")->getDoubleVal(), 0.75);
+  EXPECT_EQ(handler.getAttrConstr("p", "label")->getStringVal(), "x");
+
+  // The lookup ignores case, so "foo" finds "qpe.Foo" and sets it through the
+  // setter of the value's kind. Only creation makes a second attribute.
+  handler.setAttrConstr(Base::NODE, "n", "foo", 2.9);
+  EXPECT_EQ(handler.getAttrConstr("n", "Foo")->getAttrType(), HATAttrTypes::AttrInt);
+  EXPECT_EQ(handler.getAttrConstr("n", "Foo")->getIntVal(), 2);
+  handler.createAttrConstr(Base::NODE, "n", HATAttrTypes::AttrBool, "foo");
+  EXPECT_EQ(handler.getConstrs().back()->getConstrName(), "qpe.foo");
+  ASSERT_EQ(handler.size(), 4u);
+
+  // Empty names create nothing and report nothing.
+  handler.setAttrConstr(Base::NODE, "", "a", 1);
+  handler.setAttrConstr(Base::NODE, "n", "", 1);
+  EXPECT_EQ(handler.createAttrConstr(Base::NODE, "", HATAttrTypes::AttrInt, "a"), nullptr);
+  EXPECT_EQ(handler.createAttrConstr(Base::NODE, "n", HATAttrTypes::AttrInt, ""), nullptr);
+  EXPECT_EQ(handler.size(), 4u);
+
+  AttrConstr* made = handler.createAttrConstr(Base::NET, "e", HATAttrTypes::AttrDouble, "runtime");
+  EXPECT_EQ(made->getConstrName(), "QPE.RUNTIME");
+  EXPECT_FALSE(made->isSet());
+  EXPECT_EQ(handler.getConstrs().back(), made);
+
+  expectRefused([&] { handler.getAttrConstr("n", ""); },
+                "ConstrHandler::get() - attrName must be specified when T == AttrConstr");
+}
+
+TEST(ConstrHandlerTest, QueriesByObjectAndName)
+{
+  ConstrHandler handler;
+  handler.setAttrConstr(Base::NODE, "n", "fifo_depth", 4);
+  handler.setAttrConstr(Base::NODE, "n", "qpe.tile", 1);
+  handler.setAttrConstr(Base::NODE, "n", "margin", 2);
+  handler.setAttrConstr(Base::PORT, "p", "margin", 3);
+  const Constrs all = handler.getConstrs();
+
+  const Constrs sentinel{all[0]};
+  Constrs out = sentinel;
+  handler.getConstrs("unknown", out);
+  EXPECT_EQ(out, sentinel);
+  handler.getConstrs("unknown", "qpe.margin", out);
+  EXPECT_EQ(out, sentinel);
+  handler.getConstrs("unknown", Base::Attr, out);
+  EXPECT_EQ(out, sentinel);
+
+  handler.getConstrs("n", out);
+  EXPECT_EQ(out, (Constrs{all[0], all[1], all[2]}));
+  handler.getConstrs("n", "QPE.Margin", out);
+  EXPECT_EQ(out, (Constrs{all[2]}));
+  handler.getConstrs("n", "margin", out);
+  EXPECT_TRUE(out.empty()) << "no canonical retry here";
+  handler.getConstrs("n", Base::Attr, out);
+  EXPECT_EQ(out.size(), 3u);
+  handler.getConstrs("n", Base::Tile, out);
+  EXPECT_TRUE(out.empty());
+  handler.getConstrs(Base::PORT, out);
+  EXPECT_EQ(out, (Constrs{all[3]}));
+  handler.getConstrs(out);
+  EXPECT_EQ(out, all);
+
+  EXPECT_EQ(handler.getConstr("n", "qpe.TILE"), all[1]);
+  EXPECT_EQ(handler.getConstr("n", "fifo_depth"), all[0]) << "by canonical name";
+  EXPECT_EQ(handler.getConstr("n", "tile"), all[1]);
+  EXPECT_EQ(handler.getConstr("n", "nothing"), nullptr);
+  EXPECT_EQ(handler.getConstr("x", "margin"), nullptr);
+  EXPECT_EQ(handler.getConstr("p", Base::Attr), all[3]);
+  EXPECT_EQ(handler.getConstr("p", Base::Tile), nullptr);
+  EXPECT_EQ(handler.getTileConstr("n"), nullptr) << "no tile kind yet";
+  EXPECT_EQ(handler.getAreaGroupConstr("n"), nullptr);
+}
+
+TEST(ConstrHandlerTest, ConstrainedObjectsInOrderOfFirstAppearance)
+{
+  ConstrHandler handler;
+  for (const char* node : {"b", "a", "b", "c"})
+    handler.setAttrConstr(Base::NODE, node, std::string("k") + node, 1);
+  handler.setAttrConstr(Base::NODE, "a", "other", 1);
+  handler.setAttrConstr(Base::NET, "e", "k", 1);
+  Names out{"stale"};
+  handler.getAllConstrainedNodes(out);
+  EXPECT_EQ(out, (Names{"b", "a", "c"}));
+  handler.getAllConstrainedNets(out);
+  EXPECT_EQ(out, (Names{"e"}));
+  handler.getAllConstrainedPorts(out);
+  EXPECT_TRUE(out.empty());
+}
+
+TEST(ConstrHandlerTest, UnloadLeavesAnEmptyEntry)
+{
+  ConstrHandler handler;
+  handler.setAttrConstr(Base::NODE, "n", "a", 1);
+  handler.setAttrConstr(Base::NODE, "m", "a", 1);
+  BaseConstraint* doomed = handler.getConstr("n", "a");
+  handler.unload(nullptr);
+  ConstrHandler other;
+  other.setAttrConstr(Base::NODE, "n", "a", 1);
+  handler.unload(other.getConstrs().front());
+  EXPECT_EQ(handler.size(), 2u) << "null and foreign constraints are ignored";
+
+  handler.unload(doomed);
+  EXPECT_EQ(handler.size(), 1u);
+  const Constrs sentinel{handler.getConstrs().front()};
+  Constrs out = sentinel;
+  handler.getConstrs("n", out);
+  EXPECT_EQ(out, sentinel) << "an empty entry answers like an unknown object";
+  handler.getConstrs("n", "qpe.a", out);
+  EXPECT_TRUE(out.empty()) << "but the object is known";
+  EXPECT_EQ(handler.getAttrConstr("n", "a"), nullptr);
+}
+
+TEST(ConstrHandlerTest, RenamePortsMovesIndexEntries)
+{
+  ConstrHandler handler;
+  handler.setAttrConstr(Base::PORT, "a", "k", 1);
+  handler.createAttrConstr(Base::NODE, "a", HATAttrTypes::AttrInt, "k");
+  handler.setAttrConstr(Base::PORT, "c", "k", 3);
+  const Constrs all = handler.getConstrs();
+
+  handler.renamePorts({{"a", "b"}, {"c", "d"}, {"zz", "y"}});
+  EXPECT_EQ(all[0]->getObjName(), "b");
+  EXPECT_EQ(all[1]->getObjName(), "a") << "a node keeps its name";
+  Constrs out{all[2]};
+  handler.getConstrs("a", out);
+  EXPECT_EQ(out, Constrs{all[2]});
+  handler.getConstrs("b", out);
+  EXPECT_EQ(out, (Constrs{all[0], all[1]})) << "the index follows the new names";
+  EXPECT_EQ(handler.getAttrConstr("d", "k"), all[2]);
+  EXPECT_EQ(handler.getConstrs(), all);
+
+  // The node is filed under "b" now, and unloads cleanly from there.
+  handler.unload(all[1]);
+  handler.getConstrs("b", out);
+  EXPECT_EQ(out, Constrs{all[0]});
+  Names ports;
+  handler.getAllConstrainedPorts(ports);
+  EXPECT_EQ(ports, (Names{"b", "d"}));
+}
+
+TEST(ConstrHandlerTest, CreationOfKindsItDoesNotMake)
+{
+  ConstrHandler handler;
+  const std::string createConstr =
+      "ConstrHandler::createConstr() - this function does not support creating constraints of "
+      "type '";
+  for (Base::ConstrType type : {Base::Attr, Base::AreaGroup, Base::IsomorphicGraphGroup})
+    expectRefused([&] { handler.createConstr(type, Base::NODE, "n"); },
+                  createConstr + Base::getConstrTypeAsStr(type) + "'");
+  for (Base::ConstrType type : {Base::Buffer, Base::Attr, Base::FifoLocations})
+    expectRefused([&] { handler.createGlobalConstr(type, "g"); },
+                  "ConstrHandler::createGlobalConstr() - this function does not support "
+                  "creating constraints of type '" +
+                      Base::getConstrTypeAsStr(type) + "'");
+  EXPECT_TRUE(handler.empty());
+}
+
+TEST(ConstrHandlerTest, ABaseHandlerIsAParentWithoutChildren)
+{
+  ConstrHandler handler;
+  handler.isParent(false);
+  handler.isToolGenerated(true);
+  handler.isSoft(true);
+  EXPECT_TRUE(handler.isParent());
+  EXPECT_FALSE(handler.isToolGenerated());
+  EXPECT_FALSE(handler.isSoft());
+  EXPECT_EQ(handler.getChildCstHandler(false), nullptr);
+  EXPECT_EQ(handler.getChildCstHandler(true), nullptr);
+}
+
+// Records the object names of the attributes it visits.
+class AttrNames : public ConstBaseVisitor {
+public:
+  Names names;
+  void visit(const BaseConstraint* constr) override { ConstBaseVisitor::visit(constr); }
+  void visit(const AttrConstr* constr) override { names.push_back(constr->getObjName()); }
+  void visit(const BufferConstr*) override {}
+  void visit(const TileConstr*) override {}
+  void visit(const MemConstr*) override {}
+  void visit(const ReservedMemoryConstr*) override {}
+  void visit(const ShimConstr*) override {}
+  void visit(const PortLocConstr*) override {}
+  void visit(const StreamChannelConstr*) override {}
+  void visit(const ColocatedNodesConstr*) override {}
+  void visit(const RelativeNodesConstr*) override {}
+  void visit(const ColocatedPortsConstr*) override {}
+  void visit(const ColocatedDmaConstr*) override {}
+  void visit(const ColocatedMemoriesConstr*) override {}
+  void visit(const AreaGroupConstr*) override {}
+  void visit(const InstGroupConstr*) override {}
+  void visit(const DependentRoutingGroupConstr*) override {}
+  void visit(const FifoLocationsConstr*) override {}
+};
+
+// Raises every attribute by one, adding a marker attribute on the way.
+class Raiser : public BaseVisitor {
+public:
+  explicit Raiser(ConstrHandler& h) : handler(h) {}
+  ConstrHandler& handler;
+  void visit(BaseConstraint* constr) override { BaseVisitor::visit(constr); }
+  void visit(AttrConstr* constr) override
+  {
+    constr->setVal(constr->getIntVal() + 1);
+    if (!handler.getAttrConstr("marker", "m"))
+      handler.setAttrConstr(Base::NODE, "marker", "m", 0);
+  }
+  void visit(BufferConstr*) override {}
+  void visit(TileConstr*) override {}
+  void visit(MemConstr*) override {}
+  void visit(ReservedMemoryConstr*) override {}
+  void visit(ShimConstr*) override {}
+  void visit(PortLocConstr*) override {}
+  void visit(StreamChannelConstr*) override {}
+  void visit(ColocatedNodesConstr*) override {}
+  void visit(RelativeNodesConstr*) override {}
+  void visit(ColocatedPortsConstr*) override {}
+  void visit(ColocatedDmaConstr*) override {}
+  void visit(ColocatedMemoriesConstr*) override {}
+  void visit(AreaGroupConstr*) override {}
+  void visit(InstGroupConstr*) override {}
+  void visit(DependentRoutingGroupConstr*) override {}
+  void visit(FifoLocationsConstr*) override {}
+};
+
+TEST(ConstrHandlerTest, VisitorsAndDumpGoInCreationOrder)
+{
+  ConstrHandler handler;
+  handler.setAttrConstr(Base::NODE, "z", "k", 1);
+  handler.setAttrConstr(Base::PORT, "a", "k", std::string("text"));
+  handler.setAttrConstr(Base::NET, "m", "k", 0.5);
+
+  AttrNames names;
+  handler.accept(names);
+  EXPECT_EQ(names.names, (Names{"z", "a", "m"}));
+
+  ConstrHandler counts;
+  counts.setAttrConstr(Base::NODE, "n", "k", 1);
+  Raiser raiser(counts);
+  counts.accept(raiser);
+  EXPECT_EQ(counts.getAttrConstr("n", "k")->getIntVal(), 2);
+  EXPECT_EQ(counts.getAttrConstr("marker", "m")->getIntVal(), 1) << "added, then visited";
+
+  testing::internal::CaptureStdout();
+  handler.dump();
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            " attr(z)=(1)\n attr(a)=(text)\n attr(m)=(0.5)\n");
+}
+
+// Prefixes node names and drops "gone".
+class Renamer : public BaseNameResolver {
+public:
+  std::string resolveNodeName(const std::string& name) const override
+  {
+    return name == "gone" ? "" : "top/" + name;
+  }
+};
+
+TEST(ConstrHandlerTest, CopyMergesThroughTheSetOperations)
+{
+  ConstrHandler from;
+  from.setAttrConstr(Base::NODE, "n", "margin", 3);
+  from.setAttrConstr(Base::NODE, "gone", "margin", 4);
+  from.setAttrConstr(Base::PORT, "p", "label", "x");
+  from.getAttrConstr("n", "margin")->getSrcInfo().set(SrcInfo::SourceFile, "f.cc", 7, 8);
+  from.addDmaFifoRecord("r", PhysicalSpec::Mem, 1, 2, 3, 4, 5);
+
+  ConstrHandler into;
+  into.setAttrConstr(Base::NODE, "top/n", "QPE.MARGIN", 1);
+  into.setAttrConstr(Base::NODE, "top/n", "kept", 1);
+  into.copy(from, Renamer());
+  EXPECT_EQ(into.size(), 3u) << "merged into the existing margin; the dropped name makes none";
+  const AttrConstr* margin = into.getAttrConstr("top/n", "margin");
+  EXPECT_EQ(margin->getIntVal(), 3);
+  EXPECT_EQ(margin->getSrcInfo().getFile(), "f.cc");
+  EXPECT_EQ(margin->getSrcInfo().getLine(), 7u);
+  EXPECT_EQ(into.getAttrConstr("p", "label")->getStringVal(), "x");
+  EXPECT_TRUE(into.getRecords().equals(from.getRecords()));
+
+  ConstrHandler plain;
+  plain.copy(from);
+  EXPECT_NE(plain.getAttrConstr("gone", "margin"), nullptr);
+  plain.copy(plain);
+  EXPECT_EQ(plain.size(), 3u) << "a copy onto itself sets what is there";
+  EXPECT_NE(plain.getFifoLocationsRecord("r"), nullptr);
+  EXPECT_EQ(&plain.getFifoLocationsRecords(), &std::as_const(plain).getRecords());
+
+  plain.clear();
+  EXPECT_TRUE(plain.empty());
+  EXPECT_EQ(plain.getFifoLocationsRecord("r"), nullptr);
+  Constrs out{nullptr};
+  plain.getConstrs("n", "qpe.margin", out);
+  EXPECT_EQ(out, Constrs{nullptr}) << "the index is gone too";
+}
+
+TEST(ConstrHandlerTest, RecordForwarders)
+{
+  ConstrHandler handler;
+  PhysicalSpec::PhysicalType shim = PhysicalSpec::Shim;
+  const StreamFifoRecord* stream = handler.addStreamFifoRecord("s", shim, 1, 0, 2);
+  EXPECT_EQ(handler.getFifoLocationsRecord("s"), stream);
+  EXPECT_EQ(handler.addDmaFifoRecord("s", shim, 1, 0, 2, 3, 4), nullptr);
+  EXPECT_TRUE(handler.empty()) << "records are no constraints";
+}
+
+}  // namespace
