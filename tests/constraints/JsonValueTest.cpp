@@ -48,6 +48,13 @@ void PrintTo(const PairCase& c, std::ostream* out)
   *out << "'" << c.text << "'";
 }
 
+void expectPair(const ComplexPair& pair, const PairCase& expected)
+{
+  EXPECT_EQ(pair.x, expected.x);
+  EXPECT_EQ(pair.y, expected.y);
+  EXPECT_EQ(pair.name, expected.name);
+}
+
 class ToIntTest : public testing::TestWithParam<std::pair<const char*, int>> {};
 
 TEST_P(ToIntTest, OnlyTheExactDecimalTextCounts)
@@ -102,12 +109,9 @@ class ComplexPairTest : public testing::TestWithParam<PairCase> {};
 
 TEST_P(ComplexPairTest, SplitsIntoNumbersOrAName)
 {
-  const PairCase& c = GetParam();
-  const ComplexPair pair(c.text);
-  EXPECT_EQ(pair.text, c.text);
-  EXPECT_EQ(pair.x, c.x);
-  EXPECT_EQ(pair.y, c.y);
-  EXPECT_EQ(pair.name, c.name);
+  const ComplexPair pair(GetParam().text);
+  EXPECT_EQ(pair.text, GetParam().text);
+  expectPair(pair, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -122,10 +126,7 @@ class ComplexPairWithXYTest : public testing::TestWithParam<PairCase> {};
 
 TEST_P(ComplexPairWithXYTest, ReadsXBeforeYOnly)
 {
-  const PairCase& c = GetParam();
-  const ComplexPairWithXY pair(c.text);
-  EXPECT_EQ(pair.x, c.x);
-  EXPECT_EQ(pair.y, c.y);
+  expectPair(ComplexPairWithXY(GetParam().text), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -155,12 +156,8 @@ TEST_P(ComplexRangeTest, SplitsAtTheFirstColon)
   const RangeCase& c = GetParam();
   const ComplexRange range(c.text);
   EXPECT_EQ(range.text, c.text);
-  for (const auto& [pair, expected] : {std::pair{&range.first, &c.first},
-                                       std::pair{&range.second, &c.second}}) {
-    EXPECT_EQ(pair->x, expected->x);
-    EXPECT_EQ(pair->y, expected->y);
-    EXPECT_EQ(pair->name, expected->name);
-  }
+  expectPair(range.first, c.first);
+  expectPair(range.second, c.second);
   if (c.reported)
     expectSent({{"@75-647@%s", critical, {c.text}}});
   else

@@ -4,7 +4,6 @@
 #include "ConstrUtils.h"
 
 #include <boost/algorithm/string/case_conv.hpp>
-#include <boost/algorithm/string/predicate.hpp>
 
 #include <sstream>
 
@@ -16,7 +15,7 @@ using Utils = HCRapidJsonReadWriteUtils;
 
 void stripPrefix(std::string& text, const std::string& prefix)
 {
-  if (boost::algorithm::istarts_with(text, prefix))
+  if (istartsWith(text, prefix))
     text.erase(0, prefix.size());
   boost::algorithm::to_lower(text);
 }
@@ -47,20 +46,20 @@ const std::string& AttrConstr::getOldZXPrefix()
 
 bool AttrConstr::isCanonicalAttrName(const std::string& name)
 {
-  return boost::algorithm::istarts_with(name, getCanonicalPrefix());
+  return istartsWith(name, getCanonicalPrefix());
 }
 
 bool AttrConstr::isOldZXAttrName(const std::string& name)
 {
-  return boost::algorithm::istarts_with(name, getOldZXPrefix());
+  return istartsWith(name, getOldZXPrefix());
 }
 
 bool AttrConstr::isPredefinedAttrName(const std::string& name)
 {
-  static const char* const predefined[] = {"QPE.RUNTIME", "QPE.UTILIZATION", "QPE.MARGIN",
+  static const std::string predefined[] = {"QPE.RUNTIME", "QPE.UTILIZATION", "QPE.MARGIN",
                                            "QPE.FIFO_DEPTH", "QPE.BUFFER_COUNT"};
-  for (const char* known : predefined)
-    if (boost::algorithm::iequals(name, known))
+  for (const std::string& known : predefined)
+    if (iequals(name, known))
       return true;
   return false;
 }

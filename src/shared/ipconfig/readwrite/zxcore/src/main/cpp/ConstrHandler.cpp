@@ -8,7 +8,6 @@
 #include "HEXAlgException.h"
 #include "PortRenamer.h"
 
-#include <boost/algorithm/string/predicate.hpp>
 #include <boost/range/adaptor/filtered.hpp>
 
 #include <algorithm>
@@ -216,7 +215,7 @@ void ConstrHandler::getConstrs(const std::string& objName, const std::string& co
     return;
   out.clear();
   for (BaseConstraint* constr : *entry)
-    if (boost::algorithm::iequals(constr->getConstrName(), constrName))
+    if (iequals(constr->getConstrName(), constrName))
       out.push_back(constr);
 }
 
@@ -239,9 +238,9 @@ BaseConstraint* ConstrHandler::getConstr(const std::string& objName,
   const std::string canonical = AttrConstr::makeCanonicalAttrName(constrName);
   BaseConstraint* byCanonical = nullptr;
   for (BaseConstraint* constr : *entry) {
-    if (boost::algorithm::iequals(constr->getConstrName(), constrName))
+    if (iequals(constr->getConstrName(), constrName))
       return constr;
-    if (!byCanonical && boost::algorithm::iequals(constr->getConstrName(), canonical))
+    if (!byCanonical && iequals(constr->getConstrName(), canonical))
       byCanonical = constr;
   }
   return byCanonical;

@@ -67,8 +67,9 @@ public:
   // Plain. The object's constraints of that type.
   void getConstrs(const std::string& objName, ConstrType constrType, Constrs& out) const;
 
-  // Plain. The object's first constraint of the kind, or null; each is null
-  // until its kind's cast exists.
+  // Plain. The object's first constraint of the kind, or null. Declared for
+  // every kind at once, since they need only the kind's cast: each gives null
+  // until its kind's cast is completed in ConstrCast.
   BufferConstr* getBufferConstr(const std::string& objName) const;
   ColocatedNodesConstr* getColocatedNodesConstr(const std::string& objName) const;
   RelativeNodesConstr* getRelativeNodesConstr(const std::string& objName) const;

@@ -2,6 +2,8 @@
 
 #include <boost/algorithm/string/join.hpp>
 
+#include <strings.h>
+
 #include <algorithm>
 
 namespace qpe::constraints {
@@ -20,6 +22,17 @@ void addIfUnique(const std::string& value, std::vector<std::string>& values)
 std::string to_str(const std::vector<std::string>& values)
 {
   return boost::algorithm::join(values, " ");
+}
+
+bool iequals(const std::string& a, const std::string& b)
+{
+  return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
+}
+
+bool istartsWith(const std::string& text, const std::string& prefix)
+{
+  return text.size() >= prefix.size() &&
+         strncasecmp(text.data(), prefix.data(), prefix.size()) == 0;
 }
 
 bool isValSet(int value)

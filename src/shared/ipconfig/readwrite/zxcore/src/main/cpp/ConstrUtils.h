@@ -17,6 +17,9 @@ IPCONFIG_READWRITE_EXPORT void addIfUnique(const std::string& value,
                                            std::vector<std::string>& values);
 // The strings joined by one blank.
 IPCONFIG_READWRITE_EXPORT std::string to_str(const std::vector<std::string>& values);
+// Comparisons of names that ignore the case of ASCII letters.
+IPCONFIG_READWRITE_EXPORT bool iequals(const std::string& a, const std::string& b);
+IPCONFIG_READWRITE_EXPORT bool istartsWith(const std::string& text, const std::string& prefix);
 // Numeric fields read from elsewhere use negative values for "not given".
 IPCONFIG_READWRITE_EXPORT bool isValSet(int value);
 IPCONFIG_READWRITE_EXPORT bool isValSet(double value);

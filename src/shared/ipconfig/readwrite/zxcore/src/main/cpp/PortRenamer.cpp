@@ -55,10 +55,9 @@ void PortRenamer::renamePortObject(const RenameMap& oldToNew, BaseConstraint* co
 {
   if (!constr || constr->getObjType() != BaseConstraint::PORT)
     return;
-  const std::string oldName = constr->getObjName();
-  const std::string newName = getNewPortName(oldToNew, oldName);
-  if (newName != oldName)
-    constr->setObjName(newName);
+  const auto rename = oldToNew.find(constr->getObjName());
+  if (rename != oldToNew.end() && rename->second != rename->first)
+    constr->setObjName(rename->second);
 }
 
 void PortRenamer::renameConstrObjectProperties(const RenameMap& oldToNew,
