@@ -1,0 +1,116 @@
+#include "ConstrHandler.h"
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace qpe::constraints;
+
+// `count` attributes on count / 2 objects, two on each; even objects are
+// ports, odd ones nodes.
+struct Store {
+  explicit Store(int count) : objects(count / 2)
+  {
+    for (int i = 0; i < objects; ++i)
+      names.push_back("obj_" + std::to_string(i));
+    fill(handler);
+  }
+
+  void fill(ConstrHandler& target) const
+  {
+    for (int attr = 0; attr < 2; ++attr)
+      for (int i = 0; i < objects; ++i)
+        target.setAttrConstr(i % 2 ? BaseConstraint::NODE : BaseConstraint::PORT, names[i],
+                             attrNames[attr], i);
+  }
+
+  int objects;
+  std::vector<std::string> names;
+  const std::string attrNames[2] = {"fifo_depth", "qpe.user_key"};
+  ConstrHandler handler;
+};
+
+void setItems(benchmark::State& state)
+{
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BM_StoreCreate(benchmark::State& state)
+{
+  const Store store(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    ConstrHandler handler;
+    store.fill(handler);
+    benchmark::DoNotOptimize(handler.size());
+    state.PauseTiming();
+    handler.clear();
+    state.ResumeTiming();
+  }
+  setItems(state);
+}
+BENCHMARK(BM_StoreCreate)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_StoreQueryByObjectAndName(benchmark::State& state)
+{
+  const Store store(static_cast<int>(state.range(0)));
+  for (auto _ : state)
+    for (const std::string& name : store.names)
+      for (const std::string& attr : store.attrNames)
+        benchmark::DoNotOptimize(store.handler.getAttrConstr(name, attr));
+  setItems(state);
+}
+BENCHMARK(BM_StoreQueryByObjectAndName)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+// As many ports as a tenth of the constraints, renamed there and back.
+void BM_StoreRenamePorts(benchmark::State& state)
+{
+  Store store(static_cast<int>(state.range(0)));
+  std::map<std::string, std::string> there;
+  std::map<std::string, std::string> back;
+  for (int i = 0; i < state.range(0) / 5; i += 2) {
+    there[store.names[i]] = store.names[i] + "_renamed";
+    back[store.names[i] + "_renamed"] = store.names[i];
+  }
+  for (auto _ : state) {
+    store.handler.renamePorts(there);
+    store.handler.renamePorts(back);
+  }
+  state.SetItemsProcessed(state.iterations() * 2 * static_cast<int64_t>(there.size()));
+}
+BENCHMARK(BM_StoreRenamePorts)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_StoreCopy(benchmark::State& state)
+{
+  const Store store(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    ConstrHandler copy;
+    copy.copy(store.handler);
+    benchmark::DoNotOptimize(copy.size());
+    state.PauseTiming();
+    copy.clear();
+    state.ResumeTiming();
+  }
+  setItems(state);
+}
+BENCHMARK(BM_StoreCopy)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void BM_StoreClear(benchmark::State& state)
+{
+  const Store store(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    state.PauseTiming();
+    ConstrHandler handler;
+    store.fill(handler);
+    state.ResumeTiming();
+    handler.clear();
+    benchmark::DoNotOptimize(handler.size());
+  }
+  setItems(state);
+}
+BENCHMARK(BM_StoreClear)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
