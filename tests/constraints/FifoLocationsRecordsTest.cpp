@@ -129,8 +129,6 @@ TEST(FifoLocationsRecordsTest, RecordsCompareByKindAndContents)
   const StreamFifoRecord stream("a", PhysicalSpec::Mem, 1, 2, 3);
   const UnspecifiedFifoRecord unspecifiedA("a");
   const UnspecifiedFifoRecord unspecifiedB("b");
-  const auto dmaClone = dma.clone();
-  const auto streamClone = stream.clone();
   const auto unspecifiedClone = unspecifiedA.clone();
   const DmaFifoRecord dmaRenamed("other name", PhysicalSpec::Mem, 1, 2, 3, 4, 5);
   const StreamFifoRecord streamOnCore("a", PhysicalSpec::Core, 1, 2, 3);
@@ -140,10 +138,8 @@ TEST(FifoLocationsRecordsTest, RecordsCompareByKindAndContents)
     bool equal;
   };
   const Case cases[] = {
-      {dma, *dmaClone, true},
       {dma, dmaRenamed, true},
       {dma, dmaElsewhere, false},
-      {stream, *streamClone, true},
       {stream, streamOnCore, false},
       {dma, stream, false},
       {unspecifiedA, *unspecifiedClone, true},

@@ -10,11 +10,11 @@
 
 namespace qpe::constraints {
 
-// A DMA FIFO in memory: tile type, column, row, bank and offset on the spec,
+// A DMA FIFO in memory: tile type, column, row, bank and offset of its place,
 // and the size. -1 leaves a number unset.
 class IPCONFIG_READWRITE_EXPORT DmaFifoRecord : public FifoLocationsRecord {
 public:
-  // What two records are compared by: the spec's name, column, row, index,
+  // What two records are compared by: the place's name, column, row, index,
   // physical type, bank and offset, then the size. Unset numbers are -1.
   using Contents = std::tuple<std::string, int, int, int, int, int, int, int>;
 

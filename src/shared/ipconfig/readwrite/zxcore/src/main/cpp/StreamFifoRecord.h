@@ -9,11 +9,11 @@
 
 namespace qpe::constraints {
 
-// A stream FIFO on a switch channel: tile type, column and row on the spec,
+// A stream FIFO on a switch channel: tile type, column and row of its place,
 // the channel in its index. -1 leaves a number unset.
 class IPCONFIG_READWRITE_EXPORT StreamFifoRecord : public FifoLocationsRecord {
 public:
-  // What two records are compared by: the spec's name, column, row, index
+  // What two records are compared by: the place's name, column, row, index
   // and physical type. Unset numbers are -1.
   using Contents = std::tuple<std::string, int, int, int, int>;
 
