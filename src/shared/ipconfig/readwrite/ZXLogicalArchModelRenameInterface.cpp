@@ -1,0 +1,7 @@
+#include "ZXLogicalArchModelRenameInterface.h"
+
+namespace IPConfig::Frameworks {
+
+ZXLogicalArchModelRenameInterface::~ZXLogicalArchModelRenameInterface() = default;
+
+}  // namespace IPConfig::Frameworks

@@ -1,0 +1,7 @@
+#include "ZXLogicalArchModelVisitorInterface.h"
+
+namespace IPConfig::Frameworks {
+
+ZXLogicalArchModelVisitorInterface::~ZXLogicalArchModelVisitorInterface() = default;
+
+}  // namespace IPConfig::Frameworks
