@@ -1,6 +1,6 @@
 #include "ZXLogicalArchModel.h"
 
-#include "ZXLogicalArchModelRenameInterface.h"
+#include "LogicalArchWriterModelRenamer.h"
 #include "ZXLogicalArchModelVisitorInterface.h"
 
 namespace IPConfig::Frameworks {
@@ -269,6 +269,12 @@ void ZXLogicalArchModel::rename(ZXLogicalArchModelRenameInterface& renamer)
   for (const std::unique_ptr<ZXLogicalConnection>& connection : connections)
     connection->rename(renamer);
   rebuildNameToObjectMaps_();
+}
+
+void ZXLogicalArchModel::renameLogicalArchPortNames(bool useAxiPortNames)
+{
+  LogicalArchWriterModelRenamer renamer(useAxiPortNames);
+  rename(renamer);
 }
 
 bool ZXLogicalArchModel::canCopy(const ZXLogicalArchModel& other) const

@@ -89,6 +89,8 @@ public:
   // Renames instances with their ports, then connections, and rebuilds
   // every name map from the lists.
   void rename(ZXLogicalArchModelRenameInterface& renamer);
+  // Gives every port a regular name (LogicalArchWriterModelRenamer).
+  void renameLogicalArchPortNames(bool useAxiPortNames);
 
   // False when an instance or connection name of `other` is known here.
   bool canCopy(const ZXLogicalArchModel& other) const;
