@@ -107,16 +107,22 @@ bool JsonFileFrame::writeFile(const std::string& path, OpenCheck check,
 bool JsonFileFrame::writeValidated(const JDocument& document, std::ostream& out,
                                    const std::string& schemaPath, const char* fileKind)
 {
+  const bool valid = writeThroughSchema(document, out, schemaPath);
+  if (!valid)
+    IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-585@%s", fileKind);
+  return valid;
+}
+
+bool JsonFileFrame::writeThroughSchema(const JDocument& document, std::ostream& out,
+                                       const std::string& schemaPath)
+{
   const std::unique_ptr<JSchemaDocument> schema =
       loadSchema(schemaPath, isl::iostreams::basic_file());
   rapidjson::OStreamWrapper wrapper(out);
   PrettyWriter writer(wrapper);
   setIndent(writer);
   rapidjson::GenericSchemaValidator<JSchemaDocument, PrettyWriter> validator(*schema, writer);
-  const bool valid = document.Accept(validator);
-  if (!valid)
-    IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-585@%s", fileKind);
-  return valid;
+  return document.Accept(validator);
 }
 
 bool JsonFileFrame::writePretty(const JDocument& document, std::ostream& out)

@@ -59,6 +59,11 @@ public:
   static bool writeValidated(const JDocument& document, std::ostream& out,
                              const std::string& schemaPath, const char* fileKind);
 
+  // Writing, stream form, without a message: gives whether the document
+  // passed its schema; the text stops at the first value that failed.
+  static bool writeThroughSchema(const JDocument& document, std::ostream& out,
+                                 const std::string& schemaPath);
+
   // Writing a file that has no schema: false if the writer refused a value.
   static bool writePretty(const JDocument& document, std::ostream& out);
 };

@@ -1,0 +1,268 @@
+#include "ZXLogicalArchWriter.h"
+
+#include "JsonFileFrame.h"
+#include "NOCJsonReadWriteUtils.h"
+#include "ZXLogicalArchModel.h"
+#include "ZXLogicalArchVocabulary.h"
+
+#include <boost/algorithm/string/predicate.hpp>
+#include <boost/algorithm/string/replace.hpp>
+
+#include <ostream>
+
+namespace IPConfig::Frameworks {
+
+namespace {
+
+using Json = HCRapidJsonReadWriteUtils;
+using Vocabulary = ZXLogicalArchVocabulary;
+
+bool isWritten(const std::string& name, const std::string& prefix)
+{
+  return prefix.empty() || boost::algorithm::starts_with(name, prefix);
+}
+
+// The name with the first occurrence of `prefix`, then its first "/", taken out.
+std::string keyOf(std::string name, const std::string& prefix)
+{
+  if (prefix.empty())
+    return name;
+  boost::algorithm::replace_first(name, prefix, "");
+  boost::algorithm::replace_first(name, "/", "");
+  return name;
+}
+
+void addIfNotEmpty(JValue& object, const char* key, const std::string& value, JAllocator& alloc)
+{
+  if (!value.empty())
+    Json::AddStringProperty(object, key, value, alloc);
+}
+
+void addIfNotEmpty(JValue& object, const char* key, const std::vector<std::string>& values,
+                   JAllocator& alloc)
+{
+  if (!values.empty())
+    Json::AddStringArrayProperty(object, key, values, alloc);
+}
+
+// The text of a value that is not `unset`.
+template <typename Value>
+void addText(JValue& object, const char* key, Value value, Value unset,
+             const char* (*text)(Value), JAllocator& alloc)
+{
+  if (value != unset)
+    Json::AddStringProperty(object, key, text(value), alloc);
+}
+
+void saveLogicalPortProperties(const ZXLogicalPort& port, JValue& object, JAllocator& alloc)
+{
+  addText(object, "type", port.portType, ZXLogicalPort::UNSET_PORT_TYPE,
+          Vocabulary::portTypeText, alloc);
+  addText(object, "direction", port.direction, ZXLogicalPort::UNSET_DIRECTION,
+          Vocabulary::portDirectionText, alloc);
+  if (port.dataWidth != 0)
+    Json::AddULongProperty(object, "dataWidth", port.dataWidth, alloc);
+  if (port.busWidth != 0)
+    Json::AddULongProperty(object, "busWidth", port.busWidth, alloc);
+  Json::AddULongProperty(object, "parameterIndex", port.parameterIndex, alloc);
+  if (port.clkFreq > 0.0)
+    Json::AddDoubleProperty(object, "clkFreq", port.clkFreq, alloc);
+  if (port.registeredInterface)
+    Json::AddBooleanProperty(object, "registeredInterface", true, alloc);
+  if (port.tracedInterface)
+    Json::AddBooleanProperty(object, "tracedInterface", true, alloc);
+  addIfNotEmpty(object, "traceFile", port.traceFile, alloc);
+  addIfNotEmpty(object, "annotation", port.annotation, alloc);
+  addIfNotEmpty(object, "hw_annotation", port.hw_annotation, alloc);
+  addIfNotEmpty(object, "sdfioName", port.sdfioName, alloc);
+  addIfNotEmpty(object, "vlnvName", port.vlnvName, alloc);
+  addIfNotEmpty(object, "qpechannel", port.qpechannel, alloc);
+}
+
+// Endpoints keep their instance outside the prefix, with the same two removals.
+JValue endpoint(const ZXLogicalPort& port, const std::string& prefix, JAllocator& alloc)
+{
+  JValue object(rapidjson::kObjectType);
+  Json::AddStringProperty(object, "instName",
+                          port.owner ? keyOf(port.owner->name, prefix) : std::string(), alloc);
+  Json::AddStringProperty(object, "portName", port.name, alloc);
+  return object;
+}
+
+void saveLogicalConnectionProperties(const ZXLogicalConnection& connection,
+                                     const std::string& prefix, JValue& object, JAllocator& alloc)
+{
+  addText(object, "type", connection.connectionType, ZXLogicalPort::UNSET_PORT_TYPE,
+          Vocabulary::portTypeText, alloc);
+  if (connection.srcPort) {
+    JValue source = endpoint(*connection.srcPort, prefix, alloc);
+    Json::AddGenericValueProperty(object, "srcPort", source, alloc);
+  }
+  if (!connection.dstPorts.empty()) {
+    JValue destinations(rapidjson::kArrayType);
+    for (const ZXLogicalPort* port : connection.dstPorts)
+      if (port)
+        destinations.PushBack(endpoint(*port, prefix, alloc), alloc);
+    Json::AddGenericValueProperty(object, "dstPorts", destinations, alloc);
+  }
+  addText(object, "direction", connection.connectionDirection,
+          ZXLogicalConnection::UNSET_DIRECTION, Vocabulary::connectionDirectionText, alloc);
+  addText(object, "memMode", connection.memMode, ZXLogicalConnection::UNSET_MEM_MODE,
+          Vocabulary::memModeText, alloc);
+  addText(object, "addrType", connection.addrType, ZXLogicalConnection::UNSET_ADDR_TYPE,
+          Vocabulary::addrTypeText, alloc);
+}
+
+// A section with one member per instance of its kind that the prefix keeps:
+// the instance's own keys from `saveFields`, then its ports. A kind with
+// instances has its section even when the prefix keeps none.
+template <typename Instance, typename SaveFields>
+void writeSection(JValue& root, const char* section, const char* portsKey,
+                  const std::vector<Instance*>& instances, const std::string& prefix,
+                  JAllocator& alloc, const SaveFields& saveFields)
+{
+  if (instances.empty())
+    return;
+  JValue members(rapidjson::kObjectType);
+  for (const Instance* instance : instances) {
+    if (!isWritten(instance->name, prefix))
+      continue;
+    JValue object(rapidjson::kObjectType);
+    saveFields(*instance, object);
+    JValue ports(rapidjson::kObjectType);
+    for (const std::unique_ptr<ZXLogicalPort>& port : instance->getPorts()) {
+      JValue portObject(rapidjson::kObjectType);
+      saveLogicalPortProperties(*port, portObject, alloc);
+      Json::AddGenericValueProperty(ports, port->name, portObject, alloc);
+    }
+    Json::AddGenericValueProperty(object, portsKey, ports, alloc);
+    Json::AddGenericValueProperty(members, keyOf(instance->name, prefix), object, alloc);
+  }
+  Json::AddGenericValueProperty(root, section, members, alloc);
+}
+
+}  // namespace
+
+bool ZXLogicalArchWriter::writeToJsonFile(std::ostream& out, const ZXLogicalArchModel& model)
+{
+  return writeToJsonFile_("", out, model);
+}
+
+bool ZXLogicalArchWriter::writeToJsonFile(std::ostream& out, const ZXLogicalArchModel& model,
+                                          HDGUIStatus&)
+{
+  return writeToJsonFile_("", out, model);
+}
+
+bool ZXLogicalArchWriter::writeToJsonFile(const std::string& prefix, std::ostream& out,
+                                          const ZXLogicalArchModel& model, HDGUIStatus&)
+{
+  return writeToJsonFile_(prefix, out, model);
+}
+
+bool ZXLogicalArchWriter::writeToJsonFile(const std::string& fileName,
+                                          const ZXLogicalArchModel& model)
+{
+  return JsonFileFrame::writeFile(
+      fileName, JsonFileFrame::OpenCheck::refuseUnopened,
+      [&](std::ostream& out) { return writeToJsonFile_("", out, model); });
+}
+
+bool ZXLogicalArchWriter::writeToJsonFile(const std::string& fileName,
+                                          const ZXLogicalArchModel& model, HDGUIStatus&)
+{
+  return writeToJsonFile(fileName, model);
+}
+
+bool ZXLogicalArchWriter::writeToJsonFile_(const std::string& prefix, std::ostream& out,
+                                           const ZXLogicalArchModel& model)
+{
+  if (model.isEmpty())
+    return false;
+  JDocument document(rapidjson::kObjectType);
+  JAllocator& alloc = document.GetAllocator();
+  writeProperties_(model, document, alloc);
+  writeZXInstances_(prefix, model, document, alloc);
+  writeNOCInstances_(prefix, model, document, alloc);
+  writePLInstances_(prefix, model, document, alloc);
+  writeConnections_(prefix, model, document, alloc);
+  JsonFileFrame::writeThroughSchema(document, out,
+                                    NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile());
+  return true;
+}
+
+void ZXLogicalArchWriter::writeProperties_(const ZXLogicalArchModel& model, JValue& root,
+                                           JAllocator& alloc)
+{
+  addIfNotEmpty(root, "appId", model.getAppId(), alloc);
+  addIfNotEmpty(root, "schema", model.getSchema(), alloc);
+  addIfNotEmpty(root, "device", model.getDevice(), alloc);
+  addIfNotEmpty(root, "platform", model.getPlatform(), alloc);
+}
+
+void ZXLogicalArchWriter::writeZXInstances_(const std::string& prefix,
+                                            const ZXLogicalArchModel& model, JValue& root,
+                                            JAllocator& alloc)
+{
+  std::vector<ZXLogicalZXIPInstance*> instances;
+  model.getZXIPInstances(instances);
+  writeSection(root, "QPE", "qpeshimPorts", instances, prefix, alloc,
+               [&](const ZXLogicalZXIPInstance& instance, JValue& object) {
+                 addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+                 addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+                 addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+                 addIfNotEmpty(object, "logical_device", instance.logical_device, alloc);
+               });
+}
+
+void ZXLogicalArchWriter::writeNOCInstances_(const std::string& prefix,
+                                             const ZXLogicalArchModel& model, JValue& root,
+                                             JAllocator& alloc)
+{
+  std::vector<ZXLogicalNOCIPInstance*> instances;
+  model.getNOCIPInstances(instances);
+  writeSection(root, "NoC", "nocPorts", instances, prefix, alloc,
+               [&](const ZXLogicalNOCIPInstance& instance, JValue& object) {
+                 addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+                 addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+                 addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+                 addText(object, "type", instance.type, ZXLogicalNOCIPInstance::UNSET_TYPE,
+                         Vocabulary::nocTypeText, alloc);
+               });
+}
+
+void ZXLogicalArchWriter::writePLInstances_(const std::string& prefix,
+                                            const ZXLogicalArchModel& model, JValue& root,
+                                            JAllocator& alloc)
+{
+  std::vector<ZXLogicalPLIPInstance*> instances;
+  model.getPLIPInstances(instances);
+  writeSection(root, "PL", "plPorts", instances, prefix, alloc,
+               [&](const ZXLogicalPLIPInstance& instance, JValue& object) {
+                 addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+                 addIfNotEmpty(object, "ckernelName", instance.ckernelName, alloc);
+                 addIfNotEmpty(object, "sdfinstName", instance.sdfinstName, alloc);
+                 addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+                 addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+               });
+}
+
+void ZXLogicalArchWriter::writeConnections_(const std::string& prefix,
+                                            const ZXLogicalArchModel& model, JValue& root,
+                                            JAllocator& alloc)
+{
+  std::vector<ZXLogicalConnection*> connections;
+  if (model.getLogicalConnections(connections) == 0)
+    return;
+  JValue members(rapidjson::kObjectType);
+  for (const ZXLogicalConnection* connection : connections) {
+    if (!isWritten(connection->name, prefix))
+      continue;
+    JValue object(rapidjson::kObjectType);
+    saveLogicalConnectionProperties(*connection, prefix, object, alloc);
+    Json::AddGenericValueProperty(members, keyOf(connection->name, prefix), object, alloc);
+  }
+  Json::AddGenericValueProperty(root, "connections", members, alloc);
+}
+
+}  // namespace IPConfig::Frameworks

@@ -1,0 +1,383 @@
+#include "TestSupport.h"
+
+#include "HDGUIStatus.h"
+#include "ZXLogicalArchModel.h"
+#include "ZXLogicalArchReader.h"
+#include "ZXLogicalArchWriter.h"
+
+#include <map>
+#include <sstream>
+
+namespace {
+
+using namespace IPConfig::Frameworks;
+using testing_support::MessageLogTest;
+using testing_support::readFile;
+using testing_support::ScopedEnv;
+using testing_support::TempDir;
+using testing_support::writeFile;
+
+const std::string fileName = "in/logical_arch.json";
+const std::string example = IPCONFIG_RW_EXAMPLES_DIR "/logical_arch.json";
+const std::string edges = IPCONFIG_RW_TESTS_DATA_DIR "/logical_arch_edges.json";
+
+void read(const std::string& text, ZXLogicalArchModel& model)
+{
+  std::istringstream in(text);
+  EXPECT_TRUE(ZXLogicalArchReader().readFromJsonFile(in, fileName, model));
+}
+
+std::string write(const ZXLogicalArchModel& model, const std::string& prefix = "")
+{
+  std::ostringstream out;
+  HDGUIStatus status;
+  EXPECT_TRUE(ZXLogicalArchWriter().writeToJsonFile(prefix, out, model, status));
+  return out.str();
+}
+
+std::string roundtrip(const std::string& text, const std::string& prefix = "")
+{
+  ZXLogicalArchModel model;
+  read(text, model);
+  return write(model, prefix);
+}
+
+class ZXLogicalArchFileTest : public MessageLogTest {};
+
+struct GoldenCase {
+  std::string input;
+  std::string prefix;
+  std::string golden;
+};
+
+void PrintTo(const GoldenCase& c, std::ostream* out)
+{
+  *out << c.input.substr(c.input.rfind('/') + 1) << " prefix '" << c.prefix << "'";
+}
+
+class ZXLogicalArchGoldenTest : public ::testing::TestWithParam<GoldenCase> {};
+
+TEST_P(ZXLogicalArchGoldenTest, WritesTheExactBytes)
+{
+  EXPECT_EQ(roundtrip(readFile(GetParam().input), GetParam().prefix), readFile(GetParam().golden));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, ZXLogicalArchGoldenTest,
+    ::testing::Values(
+        GoldenCase{example, "", example},
+        GoldenCase{edges, "", edges},
+        GoldenCase{edges, "top", IPCONFIG_RW_TESTS_DATA_DIR "/logical_arch_edges_prefix_top.json"},
+        GoldenCase{edges, "top/",
+                   IPCONFIG_RW_TESTS_DATA_DIR "/logical_arch_edges_prefix_top_slash.json"}));
+
+TEST_F(ZXLogicalArchFileTest, PrefixesTopAndTopSlashAgreeOnOneLevelNamesAndStayStable)
+{
+  const std::string top = roundtrip(readFile(example), "top");
+  EXPECT_EQ(roundtrip(readFile(example), "top/"), top);
+  EXPECT_EQ(top.find("top"), std::string::npos);
+  EXPECT_EQ(roundtrip(top), top);
+}
+
+TEST_F(ZXLogicalArchFileTest, ReadsEveryKeyOfTheExample)
+{
+  ZXLogicalArchModel model;
+  ZXLogicalArchReader().readFromJsonFile(example, model);
+  EXPECT_EQ(model.getPlatform(), "base_platform");
+  const auto* array = dynamic_cast<ZXLogicalZXIPInstance*>(model.getLogicalInstance("top/array"));
+  ASSERT_NE(array, nullptr);
+  EXPECT_EQ(array->logical_device, "qpe_0");
+  const ZXLogicalPort* out = array->getLogicalPort("out_spectrum");
+  ASSERT_NE(out, nullptr);
+  EXPECT_EQ(out->portType, ZXLogicalPort::STREAM);
+  EXPECT_EQ(out->direction, ZXLogicalPort::MASTER);
+  EXPECT_EQ(out->busWidth, 128u);
+  EXPECT_EQ(out->parameterIndex, 1u);
+  EXPECT_EQ(out->clkFreq, 312.5);
+  EXPECT_TRUE(out->tracedInterface);
+  EXPECT_FALSE(out->registeredInterface);
+  EXPECT_EQ(out->traceFile, "trace/out_spectrum.txt");
+  EXPECT_EQ(out->annotation, (std::vector<std::string>{"spectrum_out", "fft_out"}));
+  EXPECT_EQ(out->hw_annotation, "M_AXIS_FFT");
+  EXPECT_EQ(out->qpechannel, "ch1");
+  ASSERT_NE(out->connection, nullptr);
+  EXPECT_EQ(out->connection->name, "top/spectrum");
+  const ZXLogicalPort* shared = model.getLogicalInstance("top/noc")->getLogicalPort("S00_AXI");
+  ASSERT_NE(shared, nullptr);
+  EXPECT_EQ(shared->connection->name, "top/buffer") << "the connection read last";
+  EXPECT_EQ(shared->connection->memMode, ZXLogicalConnection::READ_WRITE);
+  EXPECT_FALSE(model.hasLogicalConnection("top/buffer"));
+}
+
+// A text of one enumerated key: the value read, and the text written back
+// (null: the key is not written).
+struct TextCase {
+  const char* key;
+  const char* text;
+  std::uint32_t value;
+  const char* written;
+};
+
+void PrintTo(const TextCase& c, std::ostream* out)
+{
+  *out << c.key << " '" << c.text << "'";
+}
+
+class ZXLogicalArchTextTest : public ::testing::TestWithParam<TextCase> {};
+
+TEST_P(ZXLogicalArchTextTest, ReadsAndWritesTheConnectionKey)
+{
+  const TextCase& c = GetParam();
+  ZXLogicalArchModel model;
+  read(std::string(R"({"connections": {"c": {")") + c.key + R"(": ")" + c.text + R"("}}})",
+       model);
+  std::vector<ZXLogicalConnection*> connections;
+  ASSERT_EQ(model.getLogicalConnections(connections), 1u);
+  const ZXLogicalConnection& connection = *connections[0];
+  const std::string key = c.key;
+  const std::map<std::string, std::uint32_t> values{
+      {"type", connection.connectionType},
+      {"direction", connection.connectionDirection},
+      {"memMode", connection.memMode},
+      {"addrType", connection.addrType}};
+  const std::uint32_t value = values.at(key);
+  EXPECT_EQ(value, c.value);
+  const std::string expected =
+      c.written ? "{\n  \"connections\": {\n    \"c\": {\n      \"" + key + "\": \"" + c.written +
+                      "\"\n    }\n  }\n}"
+                : "{\n  \"connections\": {\n    \"c\": {}\n  }\n}";
+  EXPECT_EQ(write(model), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, ZXLogicalArchTextTest,
+    ::testing::Values(TextCase{"direction", "qpe_to_pl", 0, "qpe_to_pl"},
+                      TextCase{"direction", "zx_to_pl", 0, "qpe_to_pl"},
+                      TextCase{"direction", "pl_to_zx", 1, "pl_to_qpe"},
+                      TextCase{"direction", "zx_to_noc", 2, "qpe_to_noc"},
+                      TextCase{"direction", "noc_to_zx", 3, "noc_to_qpe"},
+                      TextCase{"direction", "noc_to_qpe", 3, "noc_to_qpe"},
+                      TextCase{"direction", "noc_to_pl", 4, "noc_to_pl"},
+                      TextCase{"direction", "pl_to_noc", 5, "pl_to_noc"},
+                      TextCase{"direction", "noc_to_noc", 6, "noc_to_noc"},
+                      TextCase{"direction", "pl_to_pl", 7, "pl_to_pl"},
+                      TextCase{"direction", "zx_to_zx", 8, nullptr},
+                      TextCase{"type", "event", 2, "event"},
+                      TextCase{"type", "STREAM", 3, nullptr},
+                      TextCase{"memMode", "read-only", 0, "read-only"},
+                      TextCase{"memMode", "write-only", 1, "write-only"},
+                      TextCase{"memMode", "rw", 3, nullptr},
+                      TextCase{"addrType", "physical", 1, "physical"},
+                      TextCase{"addrType", "", 2, nullptr}));
+
+TEST_F(ZXLogicalArchFileTest, WriterKeepsParameterIndexZeroAndNamesValuesWithoutTextUnknown)
+{
+  ZXLogicalArchModel model;
+  ZXLogicalNOCIPInstance* noc = model.addNOCIPInstance("n");
+  noc->type = ZXLogicalNOCIPInstance::NOCType(3);
+  ZXLogicalPort* port = model.addNOCPort("p", noc);
+  port->portType = ZXLogicalPort::PortType(4);
+  port->direction = ZXLogicalPort::Direction(3);
+  port->clkFreq = 0.0;
+  ZXLogicalConnection* connection = model.addLogicalConnection("c");
+  connection->connectionType = ZXLogicalPort::PortType(9);
+  connection->connectionDirection = ZXLogicalConnection::Direction(9);
+  connection->memMode = ZXLogicalConnection::MemMode(4);
+  connection->addrType = ZXLogicalConnection::AddrType(3);
+  EXPECT_EQ(write(model), R"({
+  "NoC": {
+    "n": {
+      "type": "unknown",
+      "nocPorts": {
+        "p": {
+          "type": "unknown",
+          "direction": "unknown",
+          "parameterIndex": 0
+        }
+      }
+    }
+  },
+  "connections": {
+    "c": {
+      "type": "unknown",
+      "direction": "unknown",
+      "memMode": "unknown",
+      "addrType": "unknown"
+    }
+  }
+})");
+}
+
+TEST_F(ZXLogicalArchFileTest, OlderAndLooseFormsReadIntoTheModelAndWriteInTheCurrentForm)
+{
+  const std::string text = roundtrip(R"({
+    "NoC": {"n": {"nocPorts": {}}},
+    "PL": {"k": {"annotation": "instance note", "plPorts": {
+      "a": {"annotation": "one", "sdfioName": ["", "x"], "clkFreq": -5.0},
+      "b": {"clkFreq": 0.0, "registeredInterface": false, "dataWidth": 0}}}}})");
+  EXPECT_EQ(text, R"({
+  "NoC": {
+    "n": {
+      "type": "mem",
+      "nocPorts": {}
+    }
+  },
+  "PL": {
+    "k": {
+      "annotation": "instance note",
+      "plPorts": {
+        "a": {
+          "parameterIndex": 0,
+          "annotation": [
+            "one"
+          ],
+          "sdfioName": [
+            "x"
+          ]
+        },
+        "b": {
+          "parameterIndex": 0
+        }
+      }
+    }
+  }
+})");
+}
+
+TEST_F(ZXLogicalArchFileTest, ReadingAddsToTheModelAndSkipsWhatItCannotPlace)
+{
+  ZXLogicalArchModel model;
+  model.setAppId("kept");
+  ZXLogicalPLIPInstance* known = model.addPLIPInstance("k");
+  model.addPLPort("old", known);
+  read(R"({"appId": "", "device": "d",
+    "PL": {"k": {"ckernelName": "ignored", "plPorts": {"new": {}}},
+           "j": {"plPorts": {"p": {"type": "mem"}, "p": {"type": "stream"}}}},
+    "connections": {
+      "c": {"srcPort": {"instName": "j", "portName": "p"},
+            "dstPorts": [{"instName": "k", "portName": "old"}, {"instName": "k", "portName": "new"},
+                         {"instName": "nowhere", "portName": "p"}]},
+      "c": {"srcPort": {"instName": "j", "portName": "q"}}}})",
+       model);
+  EXPECT_EQ(model.getAppId(), "kept");
+  EXPECT_EQ(model.getDevice(), "d");
+  EXPECT_EQ(known->ckernelName, "");
+  EXPECT_FALSE(known->hasLogicalPort("new"));
+  const ZXLogicalArchLInst* j = model.getLogicalInstance("j");
+  ASSERT_EQ(j->getPorts().size(), 1u);
+  EXPECT_EQ(j->getPorts()[0]->portType, ZXLogicalPort::MEM);
+  std::vector<ZXLogicalConnection*> connections;
+  ASSERT_EQ(model.getLogicalConnections(connections), 2u) << "a repeated connection name adds";
+  EXPECT_EQ(connections[0]->srcPort, j->getPorts()[0].get());
+  EXPECT_EQ(connections[0]->dstPorts, std::vector<ZXLogicalPort*>{known->getLogicalPort("old")});
+  EXPECT_EQ(connections[1]->srcPort, nullptr);
+}
+
+TEST_F(ZXLogicalArchFileTest, ProgressFollowsTheSections)
+{
+  HDGUIStatus status;
+  std::vector<double> progress;
+  status.setListener([&](const std::string&, double value) { progress.push_back(value); });
+  ZXLogicalArchModel model;
+  std::istringstream in(readFile(example));
+  EXPECT_TRUE(ZXLogicalArchReader().readFromJsonFile(in, fileName, model, status));
+  EXPECT_EQ(progress, (std::vector<double>{20.0, 40.0, 60.0, 80.0, 100.0}));
+}
+
+struct FailureCase {
+  const char* name;
+  std::string text;
+  std::string detail;  // the second argument of "@90-2@%s%s"
+};
+
+void PrintTo(const FailureCase& c, std::ostream* out)
+{
+  *out << c.name;
+}
+
+class ZXLogicalArchFailureTest : public ZXLogicalArchFileTest,
+                                 public ::testing::WithParamInterface<FailureCase> {};
+
+TEST_P(ZXLogicalArchFailureTest, RefusesTheFileAndLeavesTheModelAlone)
+{
+  ZXLogicalArchModel model;
+  model.setAppId("before");
+  expectThrows([&] { read(GetParam().text, model); }, "@90-2@%s%s",
+               {fileName, GetParam().detail});
+  EXPECT_TRUE(model.isEmpty());
+  EXPECT_EQ(model.getAppId(), "before");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Inputs, ZXLogicalArchFailureTest,
+    ::testing::Values(
+        FailureCase{"malformed", R"({"appId": "a",})",
+                    "Missing a name for object member. (offset 14)"},
+        FailureCase{"rootArray", "[]", ""},
+        FailureCase{"appIdNumber", R"({"appId": "a", "device": 1})", "/device"},
+        FailureCase{"sectionArray", R"({"PL": []})", "/PL"},
+        FailureCase{"negativeWidth",
+                    R"({"QPE": {"top/a": {"qpeshimPorts": {"p": {"dataWidth": -1}}}}})",
+                    "/QPE/top~1a/qpeshimPorts/p/dataWidth"},
+        FailureCase{"widthAbove32Bits",
+                    R"({"NoC": {"n": {"nocPorts": {"p": {"busWidth": 4294967296}}}}})",
+                    "/NoC/n/nocPorts/p/busWidth"},
+        FailureCase{"clockText", R"({"PL": {"k": {"plPorts": {"p": {"clkFreq": "fast"}}}}})",
+                    "/PL/k/plPorts/p/clkFreq"},
+        FailureCase{"annotationNumbers",
+                    R"({"PL": {"k": {"plPorts": {"p": {"annotation": ["a", 2]}}}}})",
+                    "/PL/k/plPorts/p/annotation/1"},
+        FailureCase{"instanceAnnotationArray", R"({"PL": {"k": {"annotation": ["a"]}}})",
+                    "/PL/k/annotation"},
+        FailureCase{"flagAsText",
+                    R"({"PL": {"k": {"plPorts": {"p": {"tracedInterface": "yes"}}}}})",
+                    "/PL/k/plPorts/p/tracedInterface"},
+        FailureCase{"endpointText", R"({"connections": {"c": {"dstPorts": [{}, "k/p"]}}})",
+                    "/connections/c/dstPorts/1"},
+        FailureCase{"portNameNumber",
+                    R"({"connections": {"c": {"srcPort": {"instName": "k", "portName": 1}}}})",
+                    "/connections/c/srcPort/portName"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST_F(ZXLogicalArchFileTest, PathFormsReportTheCanonicalName)
+{
+  const TempDir dir;
+  ZXLogicalArchModel model;
+  expectThrows([&] { ZXLogicalArchReader().readFromJsonFile(dir.file("none.json"), model); },
+               "@90-1@%s", {dir.file("none.json")});
+  writeFile(dir.file("bad.json"), R"({"schema": true})");
+  expectThrows([&] { ZXLogicalArchReader().readFromJsonFile(dir.file("sub/../bad.json"), model); },
+               "@90-2@%s%s", {dir.file("bad.json"), "/schema"});
+
+  ZXLogicalArchReader().readFromJsonFile(example, model);
+  EXPECT_TRUE(ZXLogicalArchWriter().writeToJsonFile(dir.file("out.json"), model));
+  EXPECT_EQ(readFile(dir.file("out.json")), readFile(example));
+  EXPECT_FALSE(ZXLogicalArchWriter().writeToJsonFile(dir.file("no/dir/out.json"), model));
+}
+
+TEST_F(ZXLogicalArchFileTest, EmptyModelWritesNothing)
+{
+  ZXLogicalArchModel model;
+  model.setAppId("only strings");
+  std::ostringstream out;
+  EXPECT_FALSE(ZXLogicalArchWriter().writeToJsonFile(out, model));
+  EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(ZXLogicalArchFileTest, DocumentFailingTheSchemaStopsTheTextButStillSucceeds)
+{
+  const TempDir root;
+  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
+  writeFile(root.file("data/parts/tarnel/common/merrow/LogicalArchSchema.json"),
+            R"({"properties": {"device": {"type": "integer"}}})");
+  ZXLogicalArchModel model;
+  model.setAppId("a");
+  model.setDevice("d");
+  model.addPLIPInstance("k");
+  std::ostringstream out;
+  EXPECT_TRUE(ZXLogicalArchWriter().writeToJsonFile(out, model));
+  EXPECT_EQ(out.str(), "{\n  \"appId\": \"a\",\n  \"device\"");
+  expectSent({});
+}
+
+}  // namespace
