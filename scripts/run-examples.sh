@@ -24,5 +24,6 @@ run() {
 }
 
 run metadata metadata.json
+run logicalarch logical_arch.json
 check traffic traffic.json
 check traffic traffic.json.gz

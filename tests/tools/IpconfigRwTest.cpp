@@ -114,6 +114,41 @@ TEST(IpconfigRwTest, TrafficCheckEchoesWarningsAndFailsWithTheMessage)
       << result.output;
 }
 
+TEST(IpconfigRwTest, LogicalArchCheckAndRoundtripOfTheExample)
+{
+  const std::string path = IPCONFIG_RW_EXAMPLES_DIR "/logical_arch.json";
+  const std::string summary = ": 4 instances (1 QPE, 2 NoC, 1 PL), 9 ports, 5 connections\n";
+  RunResult result = runTool("logicalarch check " + path);
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_EQ(result.output, "logicalarch " + path + summary);
+
+  const TempDir dir;
+  const std::string out = dir.file("out.json");
+  result = runTool("logicalarch roundtrip " + path + " " + out);
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_EQ(result.output, "logicalarch " + path + " -> " + out + summary);
+  EXPECT_EQ(readFile(out), readFile(path));
+}
+
+TEST(IpconfigRwTest, LogicalArchFailsOnBadOrEmptyInput)
+{
+  const TempDir dir;
+  writeFile(dir.file("bad.json"), R"({"PL": {"k": {"plPorts": {"p": {"busWidth": -8}}}}})");
+  RunResult result = runTool("logicalarch check " + dir.file("bad.json"));
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.output.find("ERROR: [ipconfig @90-2@] " + dir.file("bad.json") +
+                               " /PL/k/plPorts/p/busWidth"),
+            std::string::npos)
+      << result.output;
+
+  writeFile(dir.file("empty.json"), R"({"appId": "a"})");
+  result = runTool("logicalarch roundtrip " + dir.file("empty.json") + " " + dir.file("out.json"));
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.output.find("has no instance and no connection; nothing written"),
+            std::string::npos)
+      << result.output;
+}
+
 TEST(IpconfigRwTest, RoundtripToAnUnwritablePathFails)
 {
   const TempDir dir;

@@ -29,6 +29,7 @@ struct Format {
 const std::vector<Format>& allFormats();
 
 Format metadataFormat();
+Format logicalArchFormat();
 Format trafficFormat();
 
 }  // namespace ipconfig_rw

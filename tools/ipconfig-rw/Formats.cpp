@@ -7,6 +7,7 @@ const std::vector<Format>& allFormats()
   static const std::vector<Format> formats{
       metadataFormat(),
       trafficFormat(),
+      logicalArchFormat(),
   };
   return formats;
 }
