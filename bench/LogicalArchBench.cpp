@@ -1,0 +1,126 @@
+#include "HDGUIStatus.h"
+#include "NOCJsonReadWriteUtils.h"
+#include "ZXLogicalArchModel.h"
+#include "ZXLogicalArchReader.h"
+#include "ZXLogicalArchWriter.h"
+
+#include <benchmark/benchmark.h>
+#include <rapidjson/istreamwrapper.h>
+#include <rapidjson/schema.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+using namespace IPConfig::Frameworks;
+
+const int portsPerKernel = 4;
+
+// Half the ports are shim ports of one array, half the ports of PL kernels
+// of four ports each; each kernel port streams into one shim port.
+std::string makeLogicalArch(int ports)
+{
+  const int links = ports / 2;
+  std::ostringstream text;
+  text << R"({"appId": "bench", "schema": "1.0", "QPE": {"top/array": {"qpeshimPorts": {)";
+  for (int i = 0; i < links; ++i)
+    text << (i ? "," : "") << R"("in_)" << i << R"(": {"type": "stream", "direction": "slave", )"
+         << R"("dataWidth": 64, "parameterIndex": )" << i
+         << R"(, "clkFreq": 312.5, "annotation": ["in_)" << i << R"("]})";
+  text << R"(}}}, "PL": {)";
+  for (int i = 0; i < links; ++i) {
+    if (i % portsPerKernel == 0)
+      text << (i ? "}}," : "") << R"("top/k)" << i / portsPerKernel << R"(": {"plPorts": {)";
+    else
+      text << ",";
+    text << R"("port)" << i % portsPerKernel
+         << R"(": {"type": "stream", "direction": "master", "dataWidth": 64})";
+  }
+  text << R"(}}}, "connections": {)";
+  for (int i = 0; i < links; ++i)
+    text << (i ? "," : "") << R"("top/c)" << i << R"(": {"type": "stream", "srcPort": )"
+         << R"({"instName": "top/k)" << i / portsPerKernel << R"(", "portName": "port)"
+         << i % portsPerKernel << R"("}, "dstPorts": [{"instName": "top/array", "portName": "in_)"
+         << i << R"("}], "direction": "pl_to_qpe"})";
+  text << "}}";
+  return text.str();
+}
+
+void setCounters(benchmark::State& state)
+{
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+// The floor: RapidJSON alone parses the same text from a stream and
+// validates it with the same schema, read and compiled anew each time as
+// the reader does.
+void BM_LogicalArchParseAndValidate(benchmark::State& state)
+{
+  const std::string text = makeLogicalArch(state.range(0));
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile();
+  for (auto _ : state) {
+    std::istringstream in(text);
+    rapidjson::IStreamWrapper wrapper(in);
+    JDocument document;
+    document.ParseStream(wrapper);
+    std::ifstream schemaFile(schemaPath, std::ios::binary);
+    rapidjson::IStreamWrapper schemaWrapper(schemaFile);
+    JDocument schemaDocument;
+    schemaDocument.ParseStream(schemaWrapper);
+    const rapidjson::SchemaDocument schema(schemaDocument);
+    rapidjson::SchemaValidator validator(schema);
+    benchmark::DoNotOptimize(document.Accept(validator));
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_LogicalArchParseAndValidate)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+void BM_LogicalArchRead(benchmark::State& state)
+{
+  const std::string text = makeLogicalArch(state.range(0));
+  HDGUIStatus status;
+  for (auto _ : state) {
+    std::istringstream in(text);
+    ZXLogicalArchModel model;
+    ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model, status);
+    benchmark::DoNotOptimize(model.isEmpty());
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_LogicalArchRead)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+void BM_LogicalArchWrite(benchmark::State& state)
+{
+  std::istringstream in(makeLogicalArch(state.range(0)));
+  ZXLogicalArchModel model;
+  ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model);
+  for (auto _ : state) {
+    std::ostringstream out;
+    ZXLogicalArchWriter().writeToJsonFile(out, model);
+    benchmark::DoNotOptimize(out.tellp());
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_LogicalArchWrite)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+// Every shim port looked up by name, as the compiler solution reader does
+// for each element of its file.
+void BM_LogicalArchPortByName(benchmark::State& state)
+{
+  std::istringstream in(makeLogicalArch(state.range(0)));
+  ZXLogicalArchModel model;
+  ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model);
+  const ZXLogicalArchLInst& array = *model.getLogicalInstance("top/array");
+  std::vector<std::string> names;
+  for (const std::unique_ptr<ZXLogicalPort>& port : array.getPorts())
+    names.push_back(port->name);
+  for (auto _ : state)
+    for (const std::string& name : names)
+      benchmark::DoNotOptimize(array.getLogicalPortByName(name));
+  setCounters(state);
+}
+BENCHMARK(BM_LogicalArchPortByName)->Arg(2000)->Arg(20000)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
