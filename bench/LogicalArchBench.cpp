@@ -4,11 +4,10 @@
 #include "ZXLogicalArchReader.h"
 #include "ZXLogicalArchWriter.h"
 
-#include <benchmark/benchmark.h>
-#include <rapidjson/istreamwrapper.h>
-#include <rapidjson/schema.h>
+#include "ParseAndValidate.h"
 
-#include <fstream>
+#include <benchmark/benchmark.h>
+
 #include <sstream>
 #include <string>
 
@@ -53,26 +52,18 @@ void setCounters(benchmark::State& state)
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-// The floor: RapidJSON alone parses the same text from a stream and
-// validates it with the same schema, read and compiled anew each time as
-// the reader does.
+void readModel(int ports, ZXLogicalArchModel& model)
+{
+  std::istringstream in(makeLogicalArch(ports));
+  ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model);
+}
+
 void BM_LogicalArchParseAndValidate(benchmark::State& state)
 {
   const std::string text = makeLogicalArch(state.range(0));
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile();
-  for (auto _ : state) {
-    std::istringstream in(text);
-    rapidjson::IStreamWrapper wrapper(in);
-    JDocument document;
-    document.ParseStream(wrapper);
-    std::ifstream schemaFile(schemaPath, std::ios::binary);
-    rapidjson::IStreamWrapper schemaWrapper(schemaFile);
-    JDocument schemaDocument;
-    schemaDocument.ParseStream(schemaWrapper);
-    const rapidjson::SchemaDocument schema(schemaDocument);
-    rapidjson::SchemaValidator validator(schema);
-    benchmark::DoNotOptimize(document.Accept(validator));
-  }
+  for (auto _ : state)
+    benchmark::DoNotOptimize(parseAndValidate(text, schemaPath));
   setCounters(state);
 }
 BENCHMARK(BM_LogicalArchParseAndValidate)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
@@ -93,9 +84,8 @@ BENCHMARK(BM_LogicalArchRead)->Arg(2000)->Arg(20000)->Unit(benchmark::kMilliseco
 
 void BM_LogicalArchWrite(benchmark::State& state)
 {
-  std::istringstream in(makeLogicalArch(state.range(0)));
   ZXLogicalArchModel model;
-  ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model);
+  readModel(state.range(0), model);
   for (auto _ : state) {
     std::ostringstream out;
     ZXLogicalArchWriter().writeToJsonFile(out, model);
@@ -109,9 +99,8 @@ BENCHMARK(BM_LogicalArchWrite)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisec
 // for each element of its file.
 void BM_LogicalArchPortByName(benchmark::State& state)
 {
-  std::istringstream in(makeLogicalArch(state.range(0)));
   ZXLogicalArchModel model;
-  ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model);
+  readModel(state.range(0), model);
   const ZXLogicalArchLInst& array = *model.getLogicalInstance("top/array");
   std::vector<std::string> names;
   for (const std::unique_ptr<ZXLogicalPort>& port : array.getPorts())

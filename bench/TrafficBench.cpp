@@ -3,11 +3,10 @@
 #include "NOCJsonTrafficSpecReader.h"
 #include "TrafficSpec.h"
 
-#include <benchmark/benchmark.h>
-#include <rapidjson/istreamwrapper.h>
-#include <rapidjson/schema.h>
+#include "ParseAndValidate.h"
 
-#include <fstream>
+#include <benchmark/benchmark.h>
+
 #include <sstream>
 #include <string>
 
@@ -53,26 +52,12 @@ void setCounters(benchmark::State& state)
   state.SetItemsProcessed(state.iterations() * (state.range(0) + state.range(1)));
 }
 
-// The floor: RapidJSON alone parses the same text from a stream and
-// validates it with the same schema, read and compiled anew each time as
-// the reader does.
 void BM_TrafficParseAndValidate(benchmark::State& state)
 {
   const std::string text = makeTraffic(state.range(0), state.range(1));
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
-  for (auto _ : state) {
-    std::istringstream in(text);
-    rapidjson::IStreamWrapper wrapper(in);
-    JDocument document;
-    document.ParseStream(wrapper);
-    std::ifstream schemaFile(schemaPath, std::ios::binary);
-    rapidjson::IStreamWrapper schemaWrapper(schemaFile);
-    JDocument schemaDocument;
-    schemaDocument.ParseStream(schemaWrapper);
-    const rapidjson::SchemaDocument schema(schemaDocument);
-    rapidjson::SchemaValidator validator(schema);
-    benchmark::DoNotOptimize(document.Accept(validator));
-  }
+  for (auto _ : state)
+    benchmark::DoNotOptimize(parseAndValidate(text, schemaPath));
   setCounters(state);
 }
 BENCHMARK(BM_TrafficParseAndValidate)

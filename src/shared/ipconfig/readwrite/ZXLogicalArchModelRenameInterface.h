@@ -1,15 +1,11 @@
 #pragma once
 
+#include "ZXLogicalArchForward.h"
 #include "ipconfig_readwrite_export.h"
 
 #include <string>
 
 namespace IPConfig::Frameworks {
-
-class ZXLogicalArchLInst;
-class ZXLogicalArchModel;
-class ZXLogicalConnection;
-class ZXLogicalPort;
 
 // Gives objects of a logical architecture model new names. An
 // implementation changes the object itself; the returned name is

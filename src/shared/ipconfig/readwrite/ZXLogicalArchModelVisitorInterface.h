@@ -1,13 +1,9 @@
 #pragma once
 
+#include "ZXLogicalArchForward.h"
 #include "ipconfig_readwrite_export.h"
 
 namespace IPConfig::Frameworks {
-
-class ZXLogicalArchLInst;
-class ZXLogicalArchModel;
-class ZXLogicalConnection;
-class ZXLogicalPort;
 
 // What a caller passes over a logical architecture model with accept.
 class IPCONFIG_READWRITE_EXPORT ZXLogicalArchModelVisitorInterface {

@@ -103,8 +103,9 @@ void extractLogicalPortProperties(const JValue& object, ZXLogicalPort& port)
   assignIfNotEmpty(port.qpechannel, object, "qpechannel");
 }
 
-// Adds each instance of a section that the model does not know, reads its
-// own keys with `readFields` and adds its ports.
+// Adds each instance of a section that the model does not know, reads the
+// keys every kind has and, with `readFields`, those of its kind, and adds
+// its ports.
 template <typename Instance, typename ReadFields>
 void readSection(const JValue& root, const char* section, const char* portsKey,
                  ZXLogicalArchModel& model,
@@ -116,8 +117,10 @@ void readSection(const JValue& root, const char* section, const char* portsKey,
     Instance* instance = (model.*addInstance)(name);
     if (!instance)
       return;
-    readFields(object, *instance);
+    assignIfNotEmpty(instance->vlnvName, object, "vlnvName");
+    assignIfNotEmpty(instance->annotation, object, "annotation");
     assignIfNotEmpty(instance->hw_annotation, object, "hw_annotation");
+    readFields(object, *instance);
     forEachMember(object, portsKey, [&](const std::string& portName, const JValue& port) {
       if (ZXLogicalPort* added = (model.*addPort)(portName, instance))
         extractLogicalPortProperties(port, *added);
@@ -208,10 +211,8 @@ void ZXLogicalArchReader::readPLInstances_(const JValue& root, ZXLogicalArchMode
   readSection(root, "PL", "plPorts", model, &ZXLogicalArchModel::addPLIPInstance,
               &ZXLogicalArchModel::addPLPort,
               [](const JValue& object, ZXLogicalPLIPInstance& instance) {
-                assignIfNotEmpty(instance.vlnvName, object, "vlnvName");
                 assignIfNotEmpty(instance.ckernelName, object, "ckernelName");
                 assignIfNotEmpty(instance.sdfinstName, object, "sdfinstName");
-                assignIfNotEmpty(instance.annotation, object, "annotation");
               });
 }
 
@@ -220,8 +221,6 @@ void ZXLogicalArchReader::readZXInstances_(const JValue& root, ZXLogicalArchMode
   readSection(root, "QPE", "qpeshimPorts", model, &ZXLogicalArchModel::addZXIPInstance,
               &ZXLogicalArchModel::addShimPort,
               [](const JValue& object, ZXLogicalZXIPInstance& instance) {
-                assignIfNotEmpty(instance.vlnvName, object, "vlnvName");
-                assignIfNotEmpty(instance.annotation, object, "annotation");
                 assignIfNotEmpty(instance.logical_device, object, "logical_device");
               });
 }
@@ -231,8 +230,6 @@ void ZXLogicalArchReader::readNOCInstances_(const JValue& root, ZXLogicalArchMod
   readSection(root, "NoC", "nocPorts", model, &ZXLogicalArchModel::addNOCIPInstance,
               &ZXLogicalArchModel::addNOCPort,
               [](const JValue& object, ZXLogicalNOCIPInstance& instance) {
-                assignIfNotEmpty(instance.vlnvName, object, "vlnvName");
-                assignIfNotEmpty(instance.annotation, object, "annotation");
                 assignText(instance.type, object, "type", Vocabulary::toNOCType);
               });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HCRapidJsonReadWriteUtils.h"
+#include "ZXLogicalArchForward.h"
 #include "ipconfig_readwrite_export.h"
 
 #include <iosfwd>
@@ -9,8 +10,6 @@
 class HDGUIStatus;
 
 namespace IPConfig::Frameworks {
-
-class ZXLogicalArchModel;
 
 // Reads a logical architecture file (schema "LogicalArchSchema.json") into a
 // model: the PL, compute-array and NoC instances with their ports, then the

@@ -113,15 +113,26 @@ void saveLogicalConnectionProperties(const ZXLogicalConnection& connection,
           Vocabulary::addrTypeText, alloc);
 }
 
-// A section with one member per instance of its kind that the prefix keeps:
-// the instance's own keys from `saveFields`, then its ports. A kind with
-// instances has its section even when the prefix keeps none.
-template <typename Instance, typename SaveFields>
-void writeSection(JValue& root, const char* section, const char* portsKey,
-                  const std::vector<Instance*>& instances, const std::string& prefix,
-                  JAllocator& alloc, const SaveFields& saveFields)
+// The keys that an array and a NoC instance begin with.
+template <typename Instance>
+void saveLeadingFields(const Instance& instance, JValue& object, JAllocator& alloc)
 {
-  if (instances.empty())
+  addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+  addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+  addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+}
+
+// A section with one member per instance that `getInstances` gives and the
+// prefix keeps: the instance's own keys from `saveFields`, then its ports.
+// A kind with instances has its section even when the prefix keeps none.
+template <typename Instance, typename SaveFields>
+void writeSection(const ZXLogicalArchModel& model,
+                  std::size_t (ZXLogicalArchModel::*getInstances)(std::vector<Instance*>&) const,
+                  const char* section, const char* portsKey, const std::string& prefix,
+                  JValue& root, JAllocator& alloc, const SaveFields& saveFields)
+{
+  std::vector<Instance*> instances;
+  if ((model.*getInstances)(instances) == 0)
     return;
   JValue members(rapidjson::kObjectType);
   for (const Instance* instance : instances) {
@@ -204,47 +215,40 @@ void ZXLogicalArchWriter::writeZXInstances_(const std::string& prefix,
                                             const ZXLogicalArchModel& model, JValue& root,
                                             JAllocator& alloc)
 {
-  std::vector<ZXLogicalZXIPInstance*> instances;
-  model.getZXIPInstances(instances);
-  writeSection(root, "QPE", "qpeshimPorts", instances, prefix, alloc,
-               [&](const ZXLogicalZXIPInstance& instance, JValue& object) {
-                 addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
-                 addIfNotEmpty(object, "annotation", instance.annotation, alloc);
-                 addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
-                 addIfNotEmpty(object, "logical_device", instance.logical_device, alloc);
-               });
+  writeSection(
+      model, &ZXLogicalArchModel::getZXIPInstances, "QPE", "qpeshimPorts", prefix, root, alloc,
+      [&](const ZXLogicalZXIPInstance& instance, JValue& object) {
+        saveLeadingFields(instance, object, alloc);
+        addIfNotEmpty(object, "logical_device", instance.logical_device, alloc);
+      });
 }
 
 void ZXLogicalArchWriter::writeNOCInstances_(const std::string& prefix,
                                              const ZXLogicalArchModel& model, JValue& root,
                                              JAllocator& alloc)
 {
-  std::vector<ZXLogicalNOCIPInstance*> instances;
-  model.getNOCIPInstances(instances);
-  writeSection(root, "NoC", "nocPorts", instances, prefix, alloc,
-               [&](const ZXLogicalNOCIPInstance& instance, JValue& object) {
-                 addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
-                 addIfNotEmpty(object, "annotation", instance.annotation, alloc);
-                 addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
-                 addText(object, "type", instance.type, ZXLogicalNOCIPInstance::UNSET_TYPE,
-                         Vocabulary::nocTypeText, alloc);
-               });
+  writeSection(
+      model, &ZXLogicalArchModel::getNOCIPInstances, "NoC", "nocPorts", prefix, root, alloc,
+      [&](const ZXLogicalNOCIPInstance& instance, JValue& object) {
+        saveLeadingFields(instance, object, alloc);
+        addText(object, "type", instance.type, ZXLogicalNOCIPInstance::UNSET_TYPE,
+                Vocabulary::nocTypeText, alloc);
+      });
 }
 
 void ZXLogicalArchWriter::writePLInstances_(const std::string& prefix,
                                             const ZXLogicalArchModel& model, JValue& root,
                                             JAllocator& alloc)
 {
-  std::vector<ZXLogicalPLIPInstance*> instances;
-  model.getPLIPInstances(instances);
-  writeSection(root, "PL", "plPorts", instances, prefix, alloc,
-               [&](const ZXLogicalPLIPInstance& instance, JValue& object) {
-                 addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
-                 addIfNotEmpty(object, "ckernelName", instance.ckernelName, alloc);
-                 addIfNotEmpty(object, "sdfinstName", instance.sdfinstName, alloc);
-                 addIfNotEmpty(object, "annotation", instance.annotation, alloc);
-                 addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
-               });
+  writeSection(
+      model, &ZXLogicalArchModel::getPLIPInstances, "PL", "plPorts", prefix, root, alloc,
+      [&](const ZXLogicalPLIPInstance& instance, JValue& object) {
+        addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+        addIfNotEmpty(object, "ckernelName", instance.ckernelName, alloc);
+        addIfNotEmpty(object, "sdfinstName", instance.sdfinstName, alloc);
+        addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+        addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+      });
 }
 
 void ZXLogicalArchWriter::writeConnections_(const std::string& prefix,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HCRapidJsonReadWriteUtils.h"
+#include "ZXLogicalArchForward.h"
 #include "ipconfig_readwrite_export.h"
 
 #include <iosfwd>
@@ -9,8 +10,6 @@
 class HDGUIStatus;
 
 namespace IPConfig::Frameworks {
-
-class ZXLogicalArchModel;
 
 // Writes a logical architecture model as a file of the schema
 // "LogicalArchSchema.json", validating as it writes. With a prefix, only the

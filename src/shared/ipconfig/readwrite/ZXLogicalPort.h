@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ZXLogicalArchForward.h"
 #include "ipconfig_readwrite_export.h"
 
 #include <cstdint>
@@ -7,11 +8,6 @@
 #include <vector>
 
 namespace IPConfig::Frameworks {
-
-class ZXLogicalArchLInst;
-class ZXLogicalArchModelRenameInterface;
-class ZXLogicalArchModelVisitorInterface;
-class ZXLogicalConnection;
 
 // A named port of a logical instance. The instance owns it; `owner` and
 // `connection` only point into the same model.
