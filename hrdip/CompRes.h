@@ -21,9 +21,9 @@ class TrafficLInst;
 class TrafficNet;
 class TrafficPath;
 
-// What the NoC compiler answered to a traffic spec: the routes of the nets,
+// What the NoC compiler answered to a traffic model: the routes of the nets,
 // where the logical instances were placed, and the destination identifiers
-// of the components. Keys are pointers into the spec and the device, which
+// of the components. Keys are pointers into the traffic model and the device, which
 // outlive it.
 class IPCONFIG_HRDIP_EXPORT CompRes {
 public:

@@ -20,7 +20,7 @@ namespace HrdIPToolCntr {
 // What a design asks of the NoC: the logical instances that attach to it,
 // the paths between them, and a few system-wide settings.
 //
-// The spec owns its instances, paths and nets; every pointer it hands out
+// The model owns its instances, paths and nets; every pointer it hands out
 // stays valid for its life. Names are looked up through hash maps.
 //
 // Instances fall into three tables by their component type
@@ -53,13 +53,13 @@ public:
   TrafficLInst* addLogicalInstance(const std::string& name, DevHrdIP::Definitions::AxiProt protocol,
                                    DevHrdIP::Definitions::COMP_TYPE type,
                                    const ExternalConns& externalConns);
-  // The same instance, not entered in the spec.
+  // The same instance, not entered in this model.
   TrafficLInst createNonTrafficSpecLogicalInstance(const std::string& name,
                                                    DevHrdIP::Definitions::AxiProt protocol,
                                                    DevHrdIP::Definitions::COMP_TYPE type,
                                                    const ExternalConns& externalConns) const;
   // Adds the port to the memory controller; the path names the port it uses,
-  // so the spec keeps nothing else for it.
+  // so nothing else is kept for it here.
   void addPortTypeForMC(TrafficLInst* instance, DevHrdIP::Definitions::PORT_TYPE port);
 
   // A new path and its nets (see TrafficPath). Paths are kept by index.

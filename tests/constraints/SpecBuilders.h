@@ -8,7 +8,7 @@
 #include <string>
 
 // Locations built in one expression: each builder applies one setter to a
-// copy of `spec` (a fresh core location by default) and returns it.
+// copy of the given location (a fresh core location by default) and returns it.
 namespace spec_builders {
 
 using qpe::constraints::PhysicalSpec;

@@ -20,9 +20,9 @@ class TrafficSpec;
 namespace NOC {
 
 // Reads a traffic file (schema "traffic.json", gzip, bzip2 or xz compressed
-// or plain) into a traffic spec: its logical instances, then its paths, then
+// or plain) into a TrafficSpec: its logical instances, then its paths, then
 // its system properties. Every instance name passes through the resolver.
-// Reading adds to the spec; what was added before a failure stays. A
+// Reading adds to the model; what was added before a failure stays. A
 // failure throws the HEXAll of the HCRapidJsonReadWriteUtils error calls;
 // bad ports are reported as critical warnings and skipped.
 class IPCONFIG_READWRITE_EXPORT NOCJsonTrafficSpecReader {
@@ -39,8 +39,8 @@ public:
   bool readFromJsonFile(std::istream& in, const std::string& fileName,
                         HrdIPToolCntr::TrafficSpec& spec, HDGUIStatus& status);
 
-  // Adds the error slave and its routes unless the spec has it already; the
-  // result is that of the last call made to the spec.
+  // Adds the error slave and its routes unless the model has it already; the
+  // result is that of the last call made to the model.
   bool enableDefaultSlv(HrdIPToolCntr::TrafficSpec& spec);
 
 private:

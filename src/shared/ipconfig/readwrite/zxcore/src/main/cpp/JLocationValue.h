@@ -17,7 +17,7 @@ namespace qpe::constraints::json {
 // element); an integer (a column); a string in the compact syntax, kept as
 // the text. Anything else gives nothing.
 //
-// `Spec` decides what the two numbers mean: column and row, or for a shim
+// The location class decides what the two numbers mean: column and row, or for a shim
 // column and channel. A lone integer in an old-way range is a column, except
 // on a tile.
 template <typename Spec>
@@ -30,7 +30,7 @@ public:
   // otherwise a default location.
   Spec parseRangeValueOldWay(const JValue& element) const;
   // A name, or the numbers that are given, into a new location that replaces
-  // `spec`; without either `spec` stays.
+  // the given location; without either it stays.
   static void initSpec(const ComplexPair& pair, Spec& spec);
 
   // The text of a string value; empty otherwise.
