@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ComMsgMgr.h"
+#include "ComMsgMgrInstance.h"
 
 #include <string>
 
@@ -32,6 +33,17 @@ void sendMsg(const char* srcFile, int srcLine, ComMsgMgr::MsgMask mask, const ch
                            srcFile, srcLine, msgModule(), mask, format, msgArg(args)...);
 }
 
+// The same message built but not sent, for an exception to carry.
+template <typename... Args>
+ComMsgMgrInstance makeMsg(const char* srcFile, int srcLine, ComMsgMgr::MsgMask mask,
+                          const char* format, const Args&... args)
+{
+  return ComMsgMgrInstance::createInstance::eval(
+      ComMsgMgr::VariadicChecker<decltype(msgArg(args))...>::argCount, srcFile, srcLine,
+      msgModule(), mask, format, msgArg(args)...);
+}
+
 }  // namespace IPConfig
 
 #define IPCONFIG_SEND_MSG(mask, ...) ::IPConfig::sendMsg(__FILE__, __LINE__, (mask), __VA_ARGS__)
+#define IPCONFIG_MAKE_MSG(mask, ...) ::IPConfig::makeMsg(__FILE__, __LINE__, (mask), __VA_ARGS__)

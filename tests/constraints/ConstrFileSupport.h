@@ -1,0 +1,34 @@
+#pragma once
+
+#include "TestSupport.h"
+
+#include <string>
+
+namespace constr_file_support {
+
+const std::string schemaName = "qpetools_constr_schema.json";
+const std::string oldSchemaName = "parts/tarnel/common/merrow/QPEConstrSchema.json";
+
+// A data tree of its own at $KVR_ROOT, searched before the one the library
+// ships. A directory under a schema's name hides the shipped file.
+class DataTree {
+public:
+  DataTree() : kvrRoot_("KVR_ROOT", root_.path().string()) {}
+
+  std::string path(const std::string& relative) const { return root_.file("data/" + relative); }
+  std::string put(const std::string& relative, const std::string& text) const
+  {
+    testing_support::writeFile(path(relative), text);
+    return path(relative);
+  }
+  void hide(const std::string& relative) const
+  {
+    boost::filesystem::create_directories(path(relative));
+  }
+
+private:
+  testing_support::TempDir root_;
+  testing_support::ScopedEnv kvrRoot_;
+};
+
+}  // namespace constr_file_support
