@@ -4,6 +4,7 @@
 #include "BaseVisitor.h"
 #include "ConstBaseVisitor.h"
 #include "ConstrCast.h"
+#include "ConstrReader.h"
 #include "ConstrUtils.h"
 #include "HEXAlgException.h"
 #include "PortRenamer.h"
@@ -144,6 +145,19 @@ ConstrHandler::ConstrHandler() = default;
 ConstrHandler::~ConstrHandler()
 {
   ConstrHandler::clear();
+}
+
+bool ConstrHandler::read(std::istream& in, const std::string& path,
+                         const BaseNameResolver& resolver)
+{
+  ConstrReader(*this, resolver).read(in, path, true);
+  return true;
+}
+
+bool ConstrHandler::read(const std::string& path)
+{
+  ConstrReader(*this).read(path, true);
+  return true;
 }
 
 void ConstrHandler::clear()

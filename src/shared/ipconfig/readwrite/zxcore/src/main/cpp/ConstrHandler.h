@@ -8,6 +8,7 @@
 #include "ipconfig_readwrite_export.h"
 
 #include <cstddef>
+#include <iosfwd>
 #include <map>
 #include <string>
 #include <unordered_map>
@@ -38,6 +39,10 @@ public:
 
   // Deletes the constraints still held.
   virtual ~ConstrHandler();
+  // Adds the constraints of a constraints file, validated against the
+  // constraints schema. Failures throw; the result is always true.
+  virtual bool read(std::istream& in, const std::string& path, const BaseNameResolver& resolver);
+  virtual bool read(const std::string& path);
   // Deletes every constraint and record.
   virtual void clear();
   // No constraint; FIFO records do not count.

@@ -1,0 +1,388 @@
+#include "ConstrReader.h"
+
+#include "BaseNameResolver.h"
+#include "ConstrHandler.h"
+#include "HEXAlgException.h"
+#include "HUTEnv.h"
+#include "HUTFile.h"
+#include "HUTFileUtils.h"
+#include "IPConfigMessages.h"
+#include "JSimpleValue.h"
+#include "JsonValueUtils.h"
+#include "LineFinder.h"
+#include "SchemaFile.h"
+
+#include <boost/algorithm/string/predicate.hpp>
+#include <boost/filesystem/path.hpp>
+
+#include <fstream>
+
+namespace qpe::constraints {
+
+namespace {
+
+using Json = HCRapidJsonReadWriteUtils;
+
+const char srcInfoSuffix[] = "_src_info";
+
+std::string text(const JValue& string)
+{
+  return std::string(string.GetString(), string.GetStringLength());
+}
+
+// `visit(name, value)` for each member of `object` in file order; nothing for
+// a value that is no object.
+template <typename Visit>
+void forEachMember(const JValue& object, const Visit& visit)
+{
+  if (!object.IsObject())
+    return;
+  for (const auto& member : object.GetObject())
+    visit(text(member.name), member.value);
+}
+
+// An integer member, or -1.
+int integerOr(const JValue& object, const char* key)
+{
+  return Json::IsIntegrProperty(object, key) ? Json::GetIntegrProperty(object, key) : -1;
+}
+
+// The lists of a "not_" or "exclusive_" key keep their source locations in a
+// record of their own inside their colocation kind, not in the constraint's.
+bool hasOwnSrcInfoRecord(const std::string& key)
+{
+  return ConstrReader::isNotEqualBaseConstraint(key) ||
+         ConstrReader::isExclusiveBaseConstraint(key);
+}
+
+}  // namespace
+
+// The key locations of one read: the file is indexed once, and the path that
+// they record is worked out once.
+struct ConstrReader::Locations {
+  explicit Locations(const ConstrReader& reader)
+      : finder(reader.jsonPath), recordedPath(reader.getJsonPath())
+  {
+  }
+
+  LineFinder finder;
+  std::string recordedPath;
+};
+
+ConstrReader::ConstrReader(ConstrHandler& handler)
+    : handler(handler), ownResolver(std::make_unique<BaseNameResolver>()),
+      resolver(ownResolver.get())
+{
+}
+
+ConstrReader::ConstrReader(ConstrHandler& handler, const BaseNameResolver& resolver)
+    : handler(handler), resolver(&resolver)
+{
+}
+
+ConstrReader::~ConstrReader() = default;
+
+void ConstrReader::setSchema(const std::string& path)
+{
+  schemaPath = path;
+}
+
+void ConstrReader::read(const std::string& path, bool validate)
+{
+  std::ifstream in(path);
+  read(in, path, validate);
+}
+
+void ConstrReader::read(std::istream& in, const std::string& path, bool validate)
+{
+  reset();
+  if (!in.good())
+    Json::errorReadingJsonFile(path);
+  jsonPath = path;
+  readSchema_();
+  readJson_(in, validate);
+  readConstraints_();
+  reset();
+}
+
+std::string ConstrReader::getSchemaFile() const
+{
+  const std::string path = schemaPath.empty() ? SchemaFile::getConstraintsSchema() : schemaPath;
+  if (path.empty())
+    throw HEXAll(IPCONFIG_MAKE_MSG(ComMsgMgr::Error, "@75-391@"));
+  return path;
+}
+
+std::string ConstrReader::getJsonPath() const
+{
+  if (boost::filesystem::path(jsonPath).root_directory().empty())
+    return jsonPath;
+  std::string recorded = jsonPath;
+  if (!HUTFileUtils::makeRelativeToPath(HUTEnv::getPWD(), recorded))
+    HUTFile(jsonPath).getName(recorded);
+  return recorded.empty() ? jsonPath : recorded;
+}
+
+void ConstrReader::reset()
+{
+  schema.reset();
+  document.reset();
+  locations.reset();
+}
+
+bool ConstrReader::isSrcInfoBaseConstraint(const std::string& key)
+{
+  return boost::algorithm::ends_with(key, srcInfoSuffix);
+}
+
+bool ConstrReader::isNotEqualBaseConstraint(const std::string& key)
+{
+  return boost::algorithm::starts_with(key, "not_");
+}
+
+bool ConstrReader::isExclusiveBaseConstraint(const std::string& key)
+{
+  return boost::algorithm::starts_with(key, "exclusive_");
+}
+
+std::string ConstrReader::getConstrName(const std::string& key)
+{
+  return isSrcInfoBaseConstraint(key) ? key.substr(0, key.size() - (sizeof srcInfoSuffix - 1))
+                                      : key;
+}
+
+bool ConstrReader::isAttrBaseConstraint(const JValue& value)
+{
+  return json::JSimpleValue(value).isValid();
+}
+
+void ConstrReader::readSchema_()
+{
+  schema = SchemaFile::load(getSchemaFile());
+}
+
+void ConstrReader::readJson_(std::istream& in, bool validate)
+{
+  document = std::make_unique<JDocument>();
+  IPConfig::JsonFileFrame::parse(in, jsonPath, *document);
+  if (!validate)
+    return;
+  rapidjson::GenericSchemaValidator<IPConfig::JSchemaDocument> validator(*schema);
+  if (!document->Accept(validator))
+    throw SchemaFile::violation("@75-571@%s%s%s%s", jsonPath, validator);
+}
+
+void ConstrReader::readConstraints_()
+{
+  if (Json::GetBooleanProperty(*document, "isToolGenerated") && handler.isParent()) {
+    readChildConstraints_(Json::GetBooleanProperty(*document, "isSoft"));
+    return;
+  }
+  readNodeConstraints_();
+  readPortConstraints_();
+  readNetConstraints_();
+}
+
+// The file is read again from its path, validated, into the child.
+void ConstrReader::readChildConstraints_(bool soft)
+{
+  const std::string path = jsonPath;
+  const std::string givenSchema = schemaPath;
+  ConstrHandler* child = handler.getChildCstHandler(soft);
+  if (!child)
+    throw HEXAlgException("ConstrReader::readConstraints() - could not get the child tool "
+                          "generated constraint handler");
+  IPCONFIG_SEND_MSG(ComMsgMgr::Info, "@75-648@%s%s", path, soft ? "soft" : "hard");
+  IPCONFIG_SEND_MSG(ComMsgMgr::Info, "@75-4193@%s", getSchemaFile());
+  reset();
+  ConstrReader childReader(*child, *resolver);
+  childReader.setSchema(givenSchema);
+  childReader.read(path, true);
+}
+
+void ConstrReader::readNodeConstraints_()
+{
+  forEachMember(json::JBaseValue::member(*document, "NodeConstraints"),
+                [this](const std::string& name, const JValue& keys) {
+                  const std::string resolved = resolver->resolveNodeName(name);
+                  if (resolved.empty())
+                    IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, "@75-407@%s", name);
+                  else
+                    readObjectKeys_(keys, resolved, &ConstrReader::parseNodeBaseConstraint_);
+                });
+}
+
+void ConstrReader::readPortConstraints_()
+{
+  forEachMember(json::JBaseValue::member(*document, "PortConstraints"),
+                [this](const std::string& name, const JValue& keys) {
+                  if (name == "fifo_locations_records") {
+                    readFifoLocationsRecords_(keys);
+                    return;
+                  }
+                  const std::string resolved = resolver->resolvePortName(name);
+                  if (!resolved.empty()) {
+                    readObjectKeys_(keys, resolved, &ConstrReader::parsePortBaseConstraint_);
+                    return;
+                  }
+                  const std::string scope = resolver->getScopeName();
+                  if (scope.empty())
+                    IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, "@75-498@%s", name);
+                  else
+                    IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, "@75-497@%s%s", name, scope);
+                });
+}
+
+// Every key of a net is an attribute, and its "_src_info" key may stand
+// anywhere behind it.
+void ConstrReader::readNetConstraints_()
+{
+  forEachMember(
+      json::JBaseValue::member(*document, "NetConstraints"),
+      [this](const std::string& name, const JValue& keys) {
+        const std::string resolved = resolver->resolveNetName(name);
+        if (resolved.empty()) {
+          IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, "@75-408@%s", name);
+          return;
+        }
+        forEachMember(keys, [&](const std::string& key, const JValue& value) {
+          if (!isSrcInfoBaseConstraint(key))
+            parseAttrBaseConstraint_(value, key, BaseConstraint::NET, resolved);
+          setUserJsonSrcInfo_(key, resolved);
+          parseSrcInfo_(value, key, resolved);
+        });
+      });
+}
+
+// A key's source location is the "_src_info" key right behind it, if there
+// is one; otherwise the place of the key in this file.
+void ConstrReader::readObjectKeys_(const JValue& object, const std::string& objName,
+                                   ParseKey parseKey)
+{
+  if (!object.IsObject())
+    return;
+  const auto end = object.MemberEnd();
+  for (auto member = object.MemberBegin(); member != end;) {
+    const std::string key = text(member->name);
+    (this->*parseKey)(member->value, key, objName);
+    const auto next = member + 1;
+    if (next != end) {
+      const std::string nextKey = text(next->name);
+      if (isSrcInfoBaseConstraint(nextKey) && getConstrName(nextKey) == key) {
+        parseSrcInfo_(next->value, nextKey, objName);
+        member = next + 1;
+        continue;
+      }
+    }
+    setUserJsonSrcInfo_(key, objName);
+    member = next;
+  }
+}
+
+// Record names are no object names: they do not pass the resolver.
+void ConstrReader::readFifoLocationsRecords_(const JValue& records)
+{
+  forEachMember(json::JBaseValue::member(records, "dma_fifos"),
+                [this](const std::string& name, const JValue& record) {
+                  parseDmaFifoRecord_(record, name);
+                });
+  forEachMember(json::JBaseValue::member(records, "stream_fifos"),
+                [this](const std::string& name, const JValue& record) {
+                  parseStreamFifoRecord_(record, name);
+                });
+}
+
+// The keys of the node kinds are tested in the order of the file format,
+// the first match winning; whatever no kind takes is an attribute.
+void ConstrReader::parseNodeBaseConstraint_(const JValue& value, const std::string& key,
+                                            const std::string& objName)
+{
+  if (!isSrcInfoBaseConstraint(key))
+    parseAttrBaseConstraint_(value, key, BaseConstraint::NODE, objName);
+}
+
+// As for nodes, with the keys of the port kinds.
+void ConstrReader::parsePortBaseConstraint_(const JValue& value, const std::string& key,
+                                            const std::string& objName)
+{
+  if (!isSrcInfoBaseConstraint(key))
+    parseAttrBaseConstraint_(value, key, BaseConstraint::PORT, objName);
+}
+
+// Other values, and integers beyond 32 bits, are no attribute.
+void ConstrReader::parseAttrBaseConstraint_(const JValue& value, const std::string& key,
+                                            BaseConstraint::ObjectType objType,
+                                            const std::string& objName)
+{
+  if (!isAttrBaseConstraint(value))
+    return;
+  if (value.IsBool())
+    handler.setAttrConstr(objType, objName, key, value.GetBool());
+  else if (value.IsInt())
+    handler.setAttrConstr(objType, objName, key, value.GetInt());
+  else if (value.IsDouble())
+    handler.setAttrConstr(objType, objName, key, value.GetDouble());
+  else
+    handler.setAttrConstr(objType, objName, key, text(value));
+}
+
+void ConstrReader::parseDmaFifoRecord_(const JValue& value, const std::string& name)
+{
+  handler.addDmaFifoRecord(
+      name, PhysicalSpec::toPhysicalSpecTileType(Json::GetStringProperty(value, "tile_type")),
+      integerOr(value, "column"), integerOr(value, "row"), integerOr(value, "size"),
+      integerOr(value, "offset"), integerOr(value, "bankId"));
+}
+
+void ConstrReader::parseStreamFifoRecord_(const JValue& value, const std::string& name)
+{
+  handler.addStreamFifoRecord(
+      name, PhysicalSpec::toPhysicalSpecTileType(Json::GetStringProperty(value, "tile_type")),
+      integerOr(value, "column"), integerOr(value, "row"), integerOr(value, "channel"));
+}
+
+// The place of the key in this file, found by text; line and column 0 when
+// the text is not found. "tile" finds the constraint "qpe.tile" through the
+// handler's canonical lookup.
+void ConstrReader::setUserJsonSrcInfo_(const std::string& key, const std::string& objName)
+{
+  if (isSrcInfoBaseConstraint(key) || hasOwnSrcInfoRecord(key))
+    return;
+  BaseConstraint* constr = handler.getConstr(objName, key);
+  if (!constr)
+    return;
+  std::uint32_t line = 0;
+  std::uint32_t column = 0;
+  findLocInJSON_(objName, key, line, column);
+  constr->getSrcInfo().set(SrcInfo::UserJson, locations_().recordedPath, line, column);
+}
+
+// A "_src_info" key with a file names a place in another source file.
+void ConstrReader::parseSrcInfo_(const JValue& value, const std::string& key,
+                                 const std::string& objName)
+{
+  if (!isSrcInfoBaseConstraint(key) || hasOwnSrcInfoRecord(key))
+    return;
+  BaseConstraint* constr = handler.getConstr(objName, getConstrName(key));
+  std::string file;
+  std::uint32_t line = 0;
+  std::uint32_t column = 0;
+  if (constr && json::readSrcInfo(value, file, line, column))
+    constr->getSrcInfo().set(SrcInfo::SourceFile, file, line, column);
+}
+
+// The key on a line after the first line that holds the object's name.
+void ConstrReader::findLocInJSON_(const std::string& objName, const std::string& key,
+                                  std::uint32_t& line, std::uint32_t& column)
+{
+  locations_().finder.find({objName, key}, line, column);
+}
+
+ConstrReader::Locations& ConstrReader::locations_()
+{
+  if (!locations)
+    locations = std::make_unique<Locations>(*this);
+  return *locations;
+}
+
+}  // namespace qpe::constraints

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "BaseConstraint.h"
+#include "HCRapidJsonReadWriteUtils.h"
+#include "JsonFileFrame.h"
+#include "ipconfig_readwrite_export.h"
+
+#include <cstdint>
+#include <iosfwd>
+#include <memory>
+#include <string>
+
+namespace qpe::constraints {
+
+class BaseNameResolver;
+class ConstrHandler;
+class LineFinder;
+
+// Reads a constraints file into a handler: validates it against the
+// constraints schema, walks "NodeConstraints", "PortConstraints" and
+// "NetConstraints" in that order, resolves each object's name, and sets one
+// constraint for each key, with the place of the key in the file or the
+// source location that the file gives for it. A file that says it is tool
+// generated goes to the handler's child. A read adds to the handler, and
+// what it added stays when a later step fails.
+class IPCONFIG_READWRITE_EXPORT ConstrReader {
+public:
+  // Names resolve to themselves.
+  explicit ConstrReader(ConstrHandler& handler);
+  // `resolver` must outlive the reader.
+  ConstrReader(ConstrHandler& handler, const BaseNameResolver& resolver);
+  ~ConstrReader();
+  ConstrReader(const ConstrReader&) = delete;
+  ConstrReader& operator=(const ConstrReader&) = delete;
+
+  // A schema path that wins over the search in the data directory.
+  void setSchema(const std::string& path);
+  // Reads the plain text file at `path`.
+  void read(const std::string& path, bool validate);
+  // Reads `in`; `path` names it in reports and locations, and is the file
+  // that the locations of the keys are looked up in.
+  void read(std::istream& in, const std::string& path, bool validate);
+  // The setSchema path, else the one that SchemaFile finds. Throws HEXAll
+  // "@75-391@" when there is none.
+  std::string getSchemaFile() const;
+  // The path of the file being read as a location records it: relative to
+  // the current directory where it can be.
+  std::string getJsonPath() const;
+  // Releases the documents; the paths stay.
+  void reset();
+
+  // Key tests.
+  static bool isSrcInfoBaseConstraint(const std::string& key);   // ends in "_src_info"
+  static bool isNotEqualBaseConstraint(const std::string& key);   // begins with "not_"
+  static bool isExclusiveBaseConstraint(const std::string& key);  // begins with "exclusive_"
+  // The key without its "_src_info" ending.
+  static std::string getConstrName(const std::string& key);
+  // A boolean, a signed 32-bit integer, a double or a string.
+  static bool isAttrBaseConstraint(const JValue& value);
+
+private:
+  using ParseKey = void (ConstrReader::*)(const JValue& value, const std::string& key,
+                                          const std::string& objName);
+  struct Locations;
+
+  void readSchema_();
+  void readJson_(std::istream& in, bool validate);
+  void readConstraints_();
+  void readChildConstraints_(bool soft);
+  void readNodeConstraints_();
+  void readPortConstraints_();
+  void readNetConstraints_();
+  void readObjectKeys_(const JValue& object, const std::string& objName, ParseKey parseKey);
+  void readFifoLocationsRecords_(const JValue& records);
+  void parseNodeBaseConstraint_(const JValue& value, const std::string& key,
+                                const std::string& objName);
+  void parsePortBaseConstraint_(const JValue& value, const std::string& key,
+                                const std::string& objName);
+  void parseAttrBaseConstraint_(const JValue& value, const std::string& key,
+                                BaseConstraint::ObjectType objType, const std::string& objName);
+  void parseDmaFifoRecord_(const JValue& value, const std::string& name);
+  void parseStreamFifoRecord_(const JValue& value, const std::string& name);
+  void setUserJsonSrcInfo_(const std::string& key, const std::string& objName);
+  void parseSrcInfo_(const JValue& value, const std::string& key, const std::string& objName);
+  void findLocInJSON_(const std::string& objName, const std::string& key, std::uint32_t& line,
+                      std::uint32_t& column);
+  Locations& locations_();
+
+  ConstrHandler& handler;
+  std::unique_ptr<BaseNameResolver> ownResolver;
+  const BaseNameResolver* resolver;
+  std::unique_ptr<IPConfig::JSchemaDocument> schema;
+  std::unique_ptr<JDocument> document;
+  std::string jsonPath;
+  std::string schemaPath;
+  // The key locations of the read under way, made at the first one.
+  std::unique_ptr<Locations> locations;
+};
+
+}  // namespace qpe::constraints
