@@ -2,6 +2,8 @@
 
 #include "TestSupport.h"
 
+#include "ConstrHandler.h"
+
 #include <string>
 
 namespace constr_file_support {
@@ -29,6 +31,18 @@ public:
 private:
   testing_support::TempDir root_;
   testing_support::ScopedEnv kvrRoot_;
+};
+
+// A child of a host's handler, holding the constraints of tool-generated files.
+class ChildHandler : public qpe::constraints::ConstrHandler {
+public:
+  explicit ChildHandler(bool soft) : soft_(soft) {}
+  bool isParent() const override { return false; }
+  bool isToolGenerated() const override { return true; }
+  bool isSoft() const override { return soft_; }
+
+private:
+  bool soft_;
 };
 
 }  // namespace constr_file_support

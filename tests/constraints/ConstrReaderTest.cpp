@@ -13,6 +13,7 @@
 namespace {
 
 using namespace qpe::constraints;
+using constr_file_support::ChildHandler;
 using constr_file_support::DataTree;
 using constr_file_support::schemaName;
 using testing_support::ExpectedMsg;
@@ -41,17 +42,6 @@ private:
 };
 
 // A host's handler: a parent with a hard and a soft child for tool-generated files.
-class ChildHandler : public ConstrHandler {
-public:
-  explicit ChildHandler(bool soft) : soft_(soft) {}
-  bool isParent() const override { return false; }
-  bool isToolGenerated() const override { return true; }
-  bool isSoft() const override { return soft_; }
-
-private:
-  bool soft_;
-};
-
 class ParentHandler : public ConstrHandler {
 public:
   ConstrHandler* getChildCstHandler(bool soft) const override

@@ -6,6 +6,7 @@
 #include "ConstrCast.h"
 #include "ConstrReader.h"
 #include "ConstrUtils.h"
+#include "ConstrWriter.h"
 #include "HEXAlgException.h"
 #include "PortRenamer.h"
 
@@ -157,6 +158,26 @@ bool ConstrHandler::read(std::istream& in, const std::string& path,
 bool ConstrHandler::read(const std::string& path)
 {
   ConstrReader(*this).read(path, true);
+  return true;
+}
+
+bool ConstrHandler::write(const std::string& path) const
+{
+  ConstrWriter(*this).write(path, true);
+  return true;
+}
+
+bool ConstrHandler::write(std::ostream& out, const std::string& path,
+                          const BaseNameResolver& resolver) const
+{
+  ConstrWriter(*this, resolver).write(out, path, true);
+  return true;
+}
+
+bool ConstrHandler::writeAreaGroupConstrs(std::ostream& out, const std::string& path,
+                                          const BaseNameResolver& resolver) const
+{
+  ConstrWriter(*this, resolver).writeAreaGroupConstrs(out, path, true);
   return true;
 }
 

@@ -43,6 +43,14 @@ public:
   // constraints schema. Failures throw; the result is always true.
   virtual bool read(std::istream& in, const std::string& path, const BaseNameResolver& resolver);
   virtual bool read(const std::string& path);
+  // Writes the constraints file, validated; an empty handler removes the
+  // file. Failures throw; the result is always true.
+  virtual bool write(const std::string& path) const;
+  virtual bool write(std::ostream& out, const std::string& path,
+                     const BaseNameResolver& resolver) const;
+  // The same for the groups alone.
+  virtual bool writeAreaGroupConstrs(std::ostream& out, const std::string& path,
+                                     const BaseNameResolver& resolver) const;
   // Deletes every constraint and record.
   virtual void clear();
   // No constraint; FIFO records do not count.
