@@ -27,3 +27,4 @@ run metadata metadata.json
 run logicalarch logical_arch.json
 check traffic traffic.json
 check traffic traffic.json.gz
+run constraints constraints.json

@@ -1,35 +1,12 @@
-#include "TestSupport.h"
-
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
+#include "ToolRunner.h"
 
 namespace {
 
 using testing_support::readFile;
 using testing_support::TempDir;
 using testing_support::writeFile;
-
-struct RunResult {
-  int exitCode;
-  std::string output;  // stdout and stderr together
-};
-
-RunResult runTool(const std::string& args)
-{
-  const std::string command = std::string(IPCONFIG_RW_TOOL) + " " + args + " 2>&1";
-  RunResult result{-1, {}};
-  FILE* pipe = popen(command.c_str(), "r");
-  if (!pipe)
-    return result;
-  std::array<char, 4096> buffer;
-  while (std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
-    result.output.append(buffer.data(), got);
-  const int status = pclose(pipe);
-  result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return result;
-}
+using tool_runner::RunResult;
+using tool_runner::runTool;
 
 const std::string example = IPCONFIG_RW_EXAMPLES_DIR "/metadata.json";
 

@@ -31,5 +31,6 @@ const std::vector<Format>& allFormats();
 Format metadataFormat();
 Format logicalArchFormat();
 Format trafficFormat();
+Format constraintsFormat();
 
 }  // namespace ipconfig_rw

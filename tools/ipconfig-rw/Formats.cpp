@@ -6,6 +6,7 @@ const std::vector<Format>& allFormats()
 {
   static const std::vector<Format> formats{
       metadataFormat(),
+      constraintsFormat(),
       trafficFormat(),
       logicalArchFormat(),
   };

@@ -1,0 +1,107 @@
+#include "Format.h"
+
+#include "ConstrHandler.h"
+
+#include <memory>
+#include <ostream>
+
+namespace ipconfig_rw {
+
+namespace {
+
+using qpe::constraints::BaseConstraint;
+using qpe::constraints::ConstrHandler;
+
+// A tool-generated file goes to the child that its root keys name.
+class ChildHandler : public ConstrHandler {
+public:
+  explicit ChildHandler(bool soft) : soft(soft) {}
+  bool isParent() const override { return false; }
+  bool isToolGenerated() const override { return true; }
+  bool isSoft() const override { return soft; }
+
+private:
+  bool soft;
+};
+
+class ParentHandler : public ConstrHandler {
+public:
+  ConstrHandler* getChildCstHandler(bool soft) const override
+  {
+    return soft ? &softChild : &hardChild;
+  }
+
+  // The handler that a read filled: a child for a tool-generated file.
+  const ConstrHandler& filled() const
+  {
+    if (!hardChild.empty())
+      return hardChild;
+    if (!softChild.empty())
+      return softChild;
+    return *this;
+  }
+
+private:
+  mutable ChildHandler hardChild{false};
+  mutable ChildHandler softChild{true};
+};
+
+std::size_t countOf(const ConstrHandler& handler, BaseConstraint::ObjectType objType)
+{
+  ConstrHandler::Constrs constrs;
+  handler.getConstrs(objType, constrs);
+  return constrs.size();
+}
+
+int check(const std::vector<std::string>& args, std::ostream& out)
+{
+  ParentHandler parent;
+  parent.read(args[0]);
+  const ConstrHandler& handler = parent.filled();
+  const qpe::constraints::FifoLocationsRecords& records = handler.getFifoLocationsRecords();
+  out << "constraints " << args[0];
+  if (handler.isToolGenerated())
+    out << " (tool generated, " << (handler.isSoft() ? "soft" : "hard") << ")";
+  out << ": " << handler.size() << " constraints (" << countOf(handler, BaseConstraint::NODE)
+      << " node, " << countOf(handler, BaseConstraint::PORT) << " port, "
+      << countOf(handler, BaseConstraint::NET) << " net, "
+      << countOf(handler, BaseConstraint::GLOBAL) << " global), "
+      << records.getRecords().size() << " FIFO records (" << records.getDmaFifoRecordSize()
+      << " DMA, " << records.getStreamFifoRecordSize() << " stream)\n";
+  return exitOk;
+}
+
+int roundtrip(const std::vector<std::string>& args, std::ostream& out)
+{
+  ParentHandler parent;
+  parent.read(args[0]);
+  const ConstrHandler& handler = parent.filled();
+  handler.write(args[1]);
+  out << "constraints " << args[0] << " -> " << args[1] << ": " << handler.size()
+      << " constraints\n";
+  return exitOk;
+}
+
+int dump(const std::vector<std::string>& args, std::ostream&)
+{
+  ParentHandler parent;
+  parent.read(args[0]);
+  parent.filled().dump();
+  return exitOk;
+}
+
+}  // namespace
+
+Format constraintsFormat()
+{
+  return {"constraints",
+          "compute array constraints file (attributes and FIFO records: read, write; schema "
+          "qpetools_constr_schema.json)",
+          {
+              {"check", {"FILE"}, "read FILE and count its constraints and FIFO records", check},
+              {"roundtrip", {"IN", "OUT"}, "read IN and write it back to OUT", roundtrip},
+              {"dump", {"FILE"}, "read FILE and print each constraint on a line", dump},
+          }};
+}
+
+}  // namespace ipconfig_rw
