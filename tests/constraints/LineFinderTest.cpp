@@ -58,7 +58,7 @@ Location scan(const std::string& path, const std::string& objName, const std::st
   return {true, counter, column};
 }
 
-Location indexed(const LineFinder& finder, const std::string& objName, const std::string& key)
+Location indexed(LineFinder& finder, const std::string& objName, const std::string& key)
 {
   Location location{false, 7, 7};
   location.found = finder.find({objName, key}, location.line, location.column);
@@ -68,7 +68,7 @@ Location indexed(const LineFinder& finder, const std::string& objName, const std
 // Every pair of `texts` gives the same place both ways.
 void expectSameAsScan(const std::string& path, const std::vector<std::string>& texts)
 {
-  const LineFinder finder(path);
+  LineFinder finder(path);
   for (const std::string& objName : texts)
     for (const std::string& key : texts)
       ASSERT_EQ(indexed(finder, objName, key), scan(path, objName, key))
@@ -92,7 +92,7 @@ TEST(LineFinderTest, HandWrittenCasesAgreeWithTheScan)
             "    \"sp ace\": {\"\": \"\", \"x\": \"\\\"\\\"\"}\r\n"
             "  }\n"
             "}");
-  const LineFinder finder(path);
+  LineFinder finder(path);
   // The key on the object's own line is not found there; the name that
   // stands earlier as a value wins.
   EXPECT_EQ(indexed(finder, "n", "k"), (Location{true, 6, 7}));
@@ -161,7 +161,7 @@ TEST_F(LineFinderReportTest, AFinderWithoutAFileFindsNothingAndSaysWhyAtEachLook
 {
   std::uint32_t line = 3;
   std::uint32_t column = 4;
-  const LineFinder noPath("");
+  LineFinder noPath("");
   EXPECT_FALSE(noPath.find({"a", "b"}, line, column));
   EXPECT_FALSE(noPath.find({"a"}, line, column));
   expectSent({{"@75-857@", ComMsgMgr::Warning, {}}, {"@75-857@", ComMsgMgr::Warning, {}}});

@@ -41,19 +41,23 @@ LineFinder::LineFinder(const std::string& path) : path(path)
 }
 
 bool LineFinder::find(std::initializer_list<std::string_view> texts, std::uint32_t& line,
-                      std::uint32_t& column) const
+                      std::uint32_t& column)
 {
   if (failure != Failure::none) {
     report_();
     return false;
   }
-  std::uint32_t foundLine = 0;
-  std::uint32_t foundColumn = 0;
-  for (const std::string_view text : texts)
-    if (!text.empty() && !findAfter_(text, foundLine, foundColumn))
+  Place found{0, 0};
+  for (const std::string_view text : texts) {
+    if (text.empty())
+      continue;
+    const bool isFound = found.line == 0 ? findFromTop_(text, found)
+                                         : findAfter_(text, found.line, found.column);
+    if (!isFound)
       return false;
-  line = foundLine;
-  column = foundColumn;
+  }
+  line = found.line;
+  column = found.column;
   return true;
 }
 
@@ -62,26 +66,64 @@ std::string LineFinder::makeJSONSearchStr(const std::string& key)
   return key.empty() ? std::string() : '"' + key + '"';
 }
 
+// Two passes: the texts are numbered and their places counted, then the
+// places are laid out text by text.
 void LineFinder::index_()
 {
+  struct Found {
+    std::uint32_t text;
+    Place place;
+  };
+  const auto quotes = static_cast<std::size_t>(std::count(contents.begin(), contents.end(), '"'));
+  textNumbers.reserve(quotes / 2);
+  std::vector<Found> found;
+  found.reserve(quotes / 2);
+  std::vector<std::uint32_t> lastLines;
   const char* const begin = contents.data();
   const char* const end = begin + contents.size();
   std::uint32_t line = 0;
-  for (const char* start = begin; start < end; ++line) {
+  for (const char* start = begin; start < end;) {
+    ++line;
     lineStarts.push_back(static_cast<std::size_t>(start - begin));
-    const char* newline = findChar(start, end, '\n');
+    const char* const newline = findChar(start, end, '\n');
     const char* const stop = newline ? newline : end;
     for (const char* open = findChar(start, stop, '"'); open;) {
       const char* const close = findChar(open + 1, stop, '"');
       if (!close)
         break;
-      Places& at = places[std::string_view(open + 1, static_cast<std::size_t>(close - open - 1))];
-      if (at.empty() || at.back().line != line + 1)
-        at.push_back({line + 1, static_cast<std::uint32_t>(open - start + 1)});
+      const std::string_view text(open + 1, static_cast<std::size_t>(close - open - 1));
+      const auto [number, isNew] =
+          textNumbers.try_emplace(text, static_cast<std::uint32_t>(lastLines.size()));
+      if (isNew)
+        lastLines.push_back(0);
+      if (lastLines[number->second] != line) {
+        lastLines[number->second] = line;
+        found.push_back({number->second, {line, static_cast<std::uint32_t>(open - start + 1)}});
+      }
       open = close;
     }
     start = stop + 1;
   }
+  placeStarts.assign(lastLines.size() + 1, 0);
+  for (const Found& each : found)
+    ++placeStarts[each.text + 1];
+  for (std::size_t n = 1; n < placeStarts.size(); ++n)
+    placeStarts[n] += placeStarts[n - 1];
+  std::vector<std::uint32_t> next(placeStarts.begin(), placeStarts.end() - 1);
+  places.resize(found.size());
+  for (const Found& each : found)
+    places[next[each.text]++] = each.place;
+}
+
+bool LineFinder::findFromTop_(std::string_view text, Place& place)
+{
+  if (text != topText) {
+    topText = text;
+    topPlace = {0, 0};
+    topFound = findAfter_(text, topPlace.line, topPlace.column);
+  }
+  place = topPlace;
+  return topFound;
 }
 
 // A text without quotes stands quoted exactly where it is the whole text
@@ -91,11 +133,9 @@ bool LineFinder::findAfter_(std::string_view text, std::uint32_t& line,
 {
   if (text.find('"') != std::string_view::npos)
     return findQuoted_(text, line, column);
-  const auto found = places.find(text);
-  if (found == places.end())
-    return false;
-  const auto next = firstAfter_(found->second, line);
-  if (next == found->second.end())
+  const PlaceRange at = placesOf_(text);
+  const auto next = firstAfter_(at, line);
+  if (next == at.second)
     return false;
   line = next->line;
   column = next->column;
@@ -108,25 +148,32 @@ bool LineFinder::findAfter_(std::string_view text, std::uint32_t& line,
 bool LineFinder::findQuoted_(std::string_view text, std::uint32_t& line,
                              std::uint32_t& column) const
 {
-  const auto found = places.find(text.substr(0, text.find('"')));
-  if (found == places.end())
-    return false;
+  const PlaceRange at = placesOf_(text.substr(0, text.find('"')));
   const std::string search = makeJSONSearchStr(std::string(text));
-  for (auto place = firstAfter_(found->second, line); place != found->second.end(); ++place) {
-    const std::size_t at = line_(place->line).find(search);
-    if (at != std::string_view::npos) {
+  for (auto place = firstAfter_(at, line); place != at.second; ++place) {
+    const std::size_t found = line_(place->line).find(search);
+    if (found != std::string_view::npos) {
       line = place->line;
-      column = static_cast<std::uint32_t>(at + 1);
+      column = static_cast<std::uint32_t>(found + 1);
       return true;
     }
   }
   return false;
 }
 
-LineFinder::Places::const_iterator LineFinder::firstAfter_(const Places& at,
+LineFinder::PlaceRange LineFinder::placesOf_(std::string_view text) const
+{
+  const auto number = textNumbers.find(text);
+  if (number == textNumbers.end())
+    return {places.end(), places.end()};
+  return {places.begin() + placeStarts[number->second],
+          places.begin() + placeStarts[number->second + 1]};
+}
+
+LineFinder::Places::const_iterator LineFinder::firstAfter_(const PlaceRange& at,
                                                            std::uint32_t line)
 {
-  return std::upper_bound(at.begin(), at.end(), line,
+  return std::upper_bound(at.first, at.second, line,
                           [](std::uint32_t after, const Place& place) { return after < place.line; });
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace qpe::constraints {
@@ -32,7 +33,7 @@ public:
   // the opening quote of the last one found (0 and 0 when all are empty);
   // otherwise they stay as they were.
   bool find(std::initializer_list<std::string_view> texts, std::uint32_t& line,
-            std::uint32_t& column) const;
+            std::uint32_t& column);
 
   // `key` between double quotes; empty for an empty key.
   static std::string makeJSONSearchStr(const std::string& key);
@@ -45,11 +46,15 @@ private:
     std::uint32_t column;
   };
   using Places = std::vector<Place>;
+  using PlaceRange = std::pair<Places::const_iterator, Places::const_iterator>;
 
   void index_();
+  bool findFromTop_(std::string_view text, Place& place);
   bool findAfter_(std::string_view text, std::uint32_t& line, std::uint32_t& column) const;
   bool findQuoted_(std::string_view text, std::uint32_t& line, std::uint32_t& column) const;
-  static Places::const_iterator firstAfter_(const Places& at, std::uint32_t line);
+  // The places of `text`, in file order; empty for a text not indexed.
+  PlaceRange placesOf_(std::string_view text) const;
+  static Places::const_iterator firstAfter_(const PlaceRange& at, std::uint32_t line);
   std::string_view line_(std::uint32_t line) const;
   void report_() const;
 
@@ -58,9 +63,17 @@ private:
   std::string contents;
   // Offset of the start of each line; line n starts at lineStarts[n - 1].
   std::vector<std::size_t> lineStarts;
-  // Each text between two neighbouring quotes of a line: the first place of
-  // its opening quote on each line where it stands, in file order.
-  std::unordered_map<std::string_view, Places> places;
+  // Each text between two neighbouring quotes of a line has a number; the
+  // places of text n, the first on each line where it stands, in file order,
+  // are places[placeStarts[n]] up to places[placeStarts[n + 1]].
+  std::unordered_map<std::string_view, std::uint32_t> textNumbers;
+  std::vector<std::uint32_t> placeStarts;
+  Places places;
+  // The last text looked for from the top, and where it was found: the keys
+  // of one object are looked for one after another.
+  std::string topText;
+  bool topFound = false;
+  Place topPlace{0, 0};
 };
 
 }  // namespace qpe::constraints
