@@ -3,8 +3,6 @@
 #include "ConstrHandler.h"
 #include "ConstrUtils.h"
 
-#include <boost/algorithm/string/case_conv.hpp>
-
 #include <sstream>
 
 namespace qpe::constraints {
@@ -17,7 +15,7 @@ void stripPrefix(std::string& text, const std::string& prefix)
 {
   if (istartsWith(text, prefix))
     text.erase(0, prefix.size());
-  boost::algorithm::to_lower(text);
+  toLower(text);
 }
 
 // A negative value of these is no value.
@@ -68,7 +66,7 @@ std::string AttrConstr::makeCanonicalAttrName(const std::string& name)
 {
   std::string canonical = isCanonicalAttrName(name) ? name : getCanonicalPrefix() + name;
   if (isPredefinedAttrName(canonical))
-    boost::algorithm::to_upper(canonical);
+    toUpper(canonical);
   return canonical;
 }
 

@@ -35,6 +35,20 @@ bool istartsWith(const std::string& text, const std::string& prefix)
          strncasecmp(text.data(), prefix.data(), prefix.size()) == 0;
 }
 
+void toLower(std::string& text)
+{
+  for (char& c : text)
+    if (c >= 'A' && c <= 'Z')
+      c = static_cast<char>(c - 'A' + 'a');
+}
+
+void toUpper(std::string& text)
+{
+  for (char& c : text)
+    if (c >= 'a' && c <= 'z')
+      c = static_cast<char>(c - 'a' + 'A');
+}
+
 bool isValSet(int value)
 {
   return value >= 0;

@@ -20,6 +20,9 @@ IPCONFIG_READWRITE_EXPORT std::string to_str(const std::vector<std::string>& val
 // Comparisons of names that ignore the case of ASCII letters.
 IPCONFIG_READWRITE_EXPORT bool iequals(const std::string& a, const std::string& b);
 IPCONFIG_READWRITE_EXPORT bool istartsWith(const std::string& text, const std::string& prefix);
+// The case of ASCII letters changed in place, the same way.
+IPCONFIG_READWRITE_EXPORT void toLower(std::string& text);
+IPCONFIG_READWRITE_EXPORT void toUpper(std::string& text);
 // Numeric fields read from elsewhere use negative values for "not given".
 IPCONFIG_READWRITE_EXPORT bool isValSet(int value);
 IPCONFIG_READWRITE_EXPORT bool isValSet(double value);
@@ -33,7 +36,8 @@ void getUniqueObjNames(ConstrIterator first, ConstrIterator last, std::vector<st
   std::unordered_set<std::string> seen;
   for (; first != last; ++first) {
     std::string name = (*first)->getObjName();
-    if (seen.insert(name).second)
+    // An object's constraints are mostly made one after another.
+    if ((names.empty() || name != names.back()) && seen.insert(name).second)
       names.push_back(std::move(name));
   }
   out = std::move(names);
