@@ -3,6 +3,7 @@
 #include "AttrConstr.h"
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
+#include "ForwardingHandler.h"
 #include "HEXAlgException.h"
 #include "HUTFile.h"
 #include "IPConfigMessages.h"
@@ -11,7 +12,6 @@
 #include <rapidjson/ostreamwrapper.h>
 #include <rapidjson/prettywriter.h>
 
-#include <cstdint>
 #include <fstream>
 
 namespace qpe::constraints {
@@ -20,44 +20,6 @@ namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
 using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
-
-// The validator's output handler, forwarding to the pretty writer. The
-// validators that the validator makes for parts of the schema (pattern
-// properties) get a default-made one, which must forward nowhere.
-class ToWriter {
-public:
-  using Ch = char;
-
-  ToWriter() = default;
-  explicit ToWriter(PrettyWriter& writer) : writer(&writer) {}
-
-  bool Null() { return !writer || writer->Null(); }
-  bool Bool(bool b) { return !writer || writer->Bool(b); }
-  bool Int(int i) { return !writer || writer->Int(i); }
-  bool Uint(unsigned u) { return !writer || writer->Uint(u); }
-  bool Int64(std::int64_t i) { return !writer || writer->Int64(i); }
-  bool Uint64(std::uint64_t u) { return !writer || writer->Uint64(u); }
-  bool Double(double d) { return !writer || writer->Double(d); }
-  bool RawNumber(const Ch* text, rapidjson::SizeType length, bool copy)
-  {
-    return !writer || writer->RawNumber(text, length, copy);
-  }
-  bool String(const Ch* text, rapidjson::SizeType length, bool copy)
-  {
-    return !writer || writer->String(text, length, copy);
-  }
-  bool StartObject() { return !writer || writer->StartObject(); }
-  bool Key(const Ch* text, rapidjson::SizeType length, bool copy)
-  {
-    return !writer || writer->Key(text, length, copy);
-  }
-  bool EndObject(rapidjson::SizeType count) { return !writer || writer->EndObject(count); }
-  bool StartArray() { return !writer || writer->StartArray(); }
-  bool EndArray(rapidjson::SizeType count) { return !writer || writer->EndArray(count); }
-
-private:
-  PrettyWriter* writer = nullptr;
-};
 
 }  // namespace
 
@@ -296,9 +258,9 @@ void ConstrWriter::writeToJson_(std::ostream& out, bool validate)
     out.flush();
     return;
   }
-  ToWriter toWriter(writer);
-  rapidjson::GenericSchemaValidator<IPConfig::JSchemaDocument, ToWriter> validator(*schema,
-                                                                                  toWriter);
+  IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
+  rapidjson::GenericSchemaValidator<IPConfig::JSchemaDocument, decltype(toWriter)> validator(
+      *schema, toWriter);
   if (!m_doc->Accept(validator))
     out.flush();
   if (!validator.IsValid())

@@ -1,0 +1,186 @@
+#include "ComMsgLog.h"
+#include "ComMsgMgr.h"
+#include "ConstrHandler.h"
+#include "ForwardingHandler.h"
+#include "SchemaFile.h"
+
+#include <benchmark/benchmark.h>
+#include <boost/filesystem.hpp>
+#include <rapidjson/istreamwrapper.h>
+#include <rapidjson/ostreamwrapper.h>
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/schema.h>
+
+#include <chrono>
+#include <fstream>
+#include <map>
+#include <string>
+
+// ConstrHandler::read and write of generated constraints files, each timed
+// beside its floor on the same file in the same iteration: RapidJSON alone
+// parsing the file and validating it with the same schema, read and compiled
+// anew as the library does; and for the write, RapidJSON alone passing the
+// same document through the validator into a pretty writer. Counters:
+// x_floor, the library's time over the floor's; x_10k, at 100k constraints,
+// the library's time over its time at 10k (linear is 10).
+namespace {
+
+using qpe::constraints::ConstrHandler;
+using qpe::constraints::SchemaFile;
+using Clock = std::chrono::steady_clock;
+using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
+namespace fs = boost::filesystem;
+
+// `count` attributes, three on each object: nodes, ports and nets in turn,
+// one key in ten with a source location in another file.
+std::string makeConstraints(int count)
+{
+  const int objects = count / 3;
+  std::string sections[3];
+  for (int i = 0; i < objects; ++i) {
+    std::string& section = sections[i % 3];
+    section += section.empty() ? "\n" : ",\n";
+    section += "    \"top/inst_" + std::to_string(i) + "\": {\n      \"fifo_depth\": " +
+               std::to_string(i % 64) + ",\n";
+    if (i % 10 == 0)
+      section += "      \"fifo_depth_src_info\": {\"file\": \"graph.cpp\", \"line\": " +
+                 std::to_string(i) + ", \"column\": 3},\n";
+    section += "      \"weight\": " + std::to_string(0.5 + i % 7) +
+               ",\n      \"label\": \"kernel_" + std::to_string(i) + "\"\n    }";
+  }
+  return "{\n  \"NodeConstraints\": {" + sections[0] + "\n  },\n  \"PortConstraints\": {" +
+         sections[1] + "\n  },\n  \"NetConstraints\": {" + sections[2] + "\n  }\n}\n";
+}
+
+// A generated file in a directory of its own, for as long as it is needed.
+class GeneratedFile {
+public:
+  explicit GeneratedFile(int count)
+      : dir(fs::temp_directory_path() / fs::unique_path("ipconfig-rw-bench-%%%%-%%%%"))
+  {
+    fs::create_directories(dir);
+    std::ofstream(path()) << makeConstraints(count);
+  }
+  ~GeneratedFile() { fs::remove_all(dir); }
+
+  std::string path() const { return (dir / "constraints.json").string(); }
+  std::string output() const { return (dir / "out.json").string(); }
+
+private:
+  fs::path dir;
+};
+
+template <typename Action>
+double seconds(const Action& action)
+{
+  const Clock::time_point start = Clock::now();
+  action();
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+std::unique_ptr<rapidjson::SchemaDocument> loadSchema(const std::string& path)
+{
+  std::ifstream in(path, std::ios::binary);
+  rapidjson::IStreamWrapper wrapper(in);
+  rapidjson::Document schemaDocument;
+  schemaDocument.ParseStream(wrapper);
+  return std::make_unique<rapidjson::SchemaDocument>(schemaDocument);
+}
+
+void parseAndValidate(const std::string& path, const std::string& schemaPath)
+{
+  std::ifstream in(path);
+  rapidjson::IStreamWrapper wrapper(in);
+  JDocument document;
+  document.ParseStream(wrapper);
+  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
+  rapidjson::SchemaValidator validator(*schema);
+  benchmark::DoNotOptimize(document.Accept(validator));
+}
+
+void validateAndPrint(const JDocument& document, const std::string& path,
+                      const std::string& schemaPath)
+{
+  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
+  std::ofstream out(path);
+  rapidjson::OStreamWrapper wrapper(out);
+  PrettyWriter writer(wrapper);
+  writer.SetIndent(' ', 2);
+  writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
+  IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
+  rapidjson::GenericSchemaValidator<rapidjson::SchemaDocument, decltype(toWriter)> validator(
+      *schema, toWriter);
+  benchmark::DoNotOptimize(document.Accept(validator));
+}
+
+// Sets the counters from the summed times of both, and remembers the
+// library's mean time per size for x_10k.
+void report(benchmark::State& state, std::map<int64_t, double>& means, double library,
+            double floor)
+{
+  const int64_t count = state.range(0);
+  means[count] = library / static_cast<double>(state.iterations());
+  state.counters["x_floor"] = library / floor;
+  if (count == 100000 && means.count(10000))
+    state.counters["x_10k"] = means[100000] / means[10000];
+  state.SetItemsProcessed(state.iterations() * count);
+}
+
+void BM_ConstrFileRead(benchmark::State& state)
+{
+  ComMsgMgr::setConsole(nullptr);
+  const GeneratedFile file(static_cast<int>(state.range(0)));
+  const std::string schemaPath = SchemaFile::getConstraintsSchema();
+  static std::map<int64_t, double> means;
+  double library = 0;
+  double floor = 0;
+  for (auto _ : state) {
+    floor += seconds([&] { parseAndValidate(file.path(), schemaPath); });
+    ConstrHandler handler;
+    const double read = seconds([&] { handler.read(file.path()); });
+    library += read;
+    state.SetIterationTime(read);
+  }
+  report(state, means, library, floor);
+}
+BENCHMARK(BM_ConstrFileRead)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+void BM_ConstrFileWrite(benchmark::State& state)
+{
+  ComMsgMgr::setConsole(nullptr);
+  const GeneratedFile file(static_cast<int>(state.range(0)));
+  const std::string schemaPath = SchemaFile::getConstraintsSchema();
+  ConstrHandler handler;
+  handler.read(file.path());
+  handler.write(file.output());
+  JDocument written;
+  {
+    std::ifstream in(file.output());
+    rapidjson::IStreamWrapper wrapper(in);
+    written.ParseStream(wrapper);
+  }
+  static std::map<int64_t, double> means;
+  double library = 0;
+  double floor = 0;
+  for (auto _ : state) {
+    floor += seconds([&] { validateAndPrint(written, file.output(), schemaPath); });
+    const double write = seconds([&] { handler.write(file.output()); });
+    library += write;
+    state.SetIterationTime(write);
+    ComMsgLog::clear();
+  }
+  report(state, means, library, floor);
+}
+BENCHMARK(BM_ConstrFileWrite)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
