@@ -183,29 +183,26 @@ void ConstrWriter::writeToolGenAttributes_()
 
 void ConstrWriter::writeAllNodeConstrs_()
 {
-  std::vector<std::string> names;
-  handler.getAllConstrainedNodes(names);
   JValue section(rapidjson::kObjectType);
-  writeConstrsForObjects_(names, &BaseNameResolver::resolveScopedNodeName, section);
+  writeConstrsForObjects_(&ConstrHandler::getAllConstrainedNodes,
+                          &BaseNameResolver::resolveScopedNodeName, section);
   addSection_("NodeConstraints", section);
 }
 
 void ConstrWriter::writeAllPortConstrs_()
 {
-  std::vector<std::string> names;
-  handler.getAllConstrainedPorts(names);
   JValue section(rapidjson::kObjectType);
   handler.getFifoLocationsRecords().write(*m_doc, section);
-  writeConstrsForObjects_(names, &BaseNameResolver::resolveScopedPortName, section);
+  writeConstrsForObjects_(&ConstrHandler::getAllConstrainedPorts,
+                          &BaseNameResolver::resolveScopedPortName, section);
   addSection_("PortConstraints", section);
 }
 
 void ConstrWriter::writeAllNetConstrs_()
 {
-  std::vector<std::string> names;
-  handler.getAllConstrainedNets(names);
   JValue section(rapidjson::kObjectType);
-  writeConstrsForObjects_(names, &BaseNameResolver::resolveScopedNetName, section);
+  writeConstrsForObjects_(&ConstrHandler::getAllConstrainedNets,
+                          &BaseNameResolver::resolveScopedNetName, section);
   addSection_("NetConstraints", section);
 }
 
@@ -222,9 +219,11 @@ void ConstrWriter::writeAllGlobalConstrs_()
 
 // An object whose scoped name is empty is left out; one whose constraints
 // write nothing stays, empty.
-void ConstrWriter::writeConstrsForObjects_(const std::vector<std::string>& names,
-                                           ResolveName resolveScoped, JValue& section)
+void ConstrWriter::writeConstrsForObjects_(GetNames getNames, ResolveName resolveScoped,
+                                           JValue& section)
 {
+  std::vector<std::string> names;
+  (handler.*getNames)(names);
   std::vector<BaseConstraint*> constrs;
   for (const std::string& name : names) {
     const std::string scoped = (resolver->*resolveScoped)(name);

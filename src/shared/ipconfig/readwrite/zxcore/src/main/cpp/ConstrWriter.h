@@ -65,6 +65,7 @@ public:
   void stripOldZXPrefix(std::string& text) const;
 
 private:
+  using GetNames = void (ConstrHandler::*)(std::vector<std::string>&) const;
   using ResolveName = std::string (BaseNameResolver::*)(const std::string&) const;
 
   void writeFile_(const std::string& path, const std::function<void(std::ostream&)>& writeStream);
@@ -78,8 +79,8 @@ private:
   void writeAllPortConstrs_();
   void writeAllNetConstrs_();
   void writeAllGlobalConstrs_();
-  void writeConstrsForObjects_(const std::vector<std::string>& names, ResolveName resolveScoped,
-                               JValue& section);
+  // The objects that `getNames` gives, under `resolveScoped` names.
+  void writeConstrsForObjects_(GetNames getNames, ResolveName resolveScoped, JValue& section);
   void addSection_(const char* key, JValue& section);
   void writeToJson_(std::ostream& out, bool validate);
 
