@@ -2,6 +2,7 @@
 #include "ComMsgMgr.h"
 #include "ConstrHandler.h"
 #include "ForwardingHandler.h"
+#include "ParseAndValidate.h"
 #include "SchemaFile.h"
 
 #include <benchmark/benchmark.h>
@@ -18,7 +19,7 @@
 
 // ConstrHandler::read and write of generated constraints files, each timed
 // beside its floor on the same file in the same iteration: RapidJSON alone
-// parsing the file and validating it with the same schema, read and compiled
+// parsing the same text and validating it with the same schema, read and compiled
 // anew as the library does; and for the write, RapidJSON alone passing the
 // same document through the validator into a pretty writer. Counters:
 // x_floor, the library's time over the floor's; x_10k, at 100k constraints,
@@ -56,18 +57,19 @@ std::string makeConstraints(int count)
 class GeneratedFile {
 public:
   explicit GeneratedFile(int count)
-      : dir(fs::temp_directory_path() / fs::unique_path("ipconfig-rw-bench-%%%%-%%%%"))
+      : dir(fs::temp_directory_path() / fs::unique_path("ipconfig-rw-bench-%%%%-%%%%")),
+        text(makeConstraints(count))
   {
     fs::create_directories(dir);
-    std::ofstream(path()) << makeConstraints(count);
+    std::ofstream(path()) << text;
   }
   ~GeneratedFile() { fs::remove_all(dir); }
 
   std::string path() const { return (dir / "constraints.json").string(); }
   std::string output() const { return (dir / "out.json").string(); }
 
-private:
-  fs::path dir;
+  const fs::path dir;
+  const std::string text;
 };
 
 template <typename Action>
@@ -78,30 +80,14 @@ double seconds(const Action& action)
   return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-std::unique_ptr<rapidjson::SchemaDocument> loadSchema(const std::string& path)
-{
-  std::ifstream in(path, std::ios::binary);
-  rapidjson::IStreamWrapper wrapper(in);
-  rapidjson::Document schemaDocument;
-  schemaDocument.ParseStream(wrapper);
-  return std::make_unique<rapidjson::SchemaDocument>(schemaDocument);
-}
-
-void parseAndValidate(const std::string& path, const std::string& schemaPath)
-{
-  std::ifstream in(path);
-  rapidjson::IStreamWrapper wrapper(in);
-  JDocument document;
-  document.ParseStream(wrapper);
-  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
-  rapidjson::SchemaValidator validator(*schema);
-  benchmark::DoNotOptimize(document.Accept(validator));
-}
-
 void validateAndPrint(const JDocument& document, const std::string& path,
                       const std::string& schemaPath)
 {
-  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
+  std::ifstream schemaFile(schemaPath, std::ios::binary);
+  rapidjson::IStreamWrapper schemaWrapper(schemaFile);
+  JDocument schemaDocument;
+  schemaDocument.ParseStream(schemaWrapper);
+  const rapidjson::SchemaDocument schema(schemaDocument);
   std::ofstream out(path);
   rapidjson::OStreamWrapper wrapper(out);
   PrettyWriter writer(wrapper);
@@ -109,7 +95,7 @@ void validateAndPrint(const JDocument& document, const std::string& path,
   writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
   IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
   rapidjson::GenericSchemaValidator<rapidjson::SchemaDocument, decltype(toWriter)> validator(
-      *schema, toWriter);
+      schema, toWriter);
   benchmark::DoNotOptimize(document.Accept(validator));
 }
 
@@ -135,7 +121,7 @@ void BM_ConstrFileRead(benchmark::State& state)
   double library = 0;
   double floor = 0;
   for (auto _ : state) {
-    floor += seconds([&] { parseAndValidate(file.path(), schemaPath); });
+    floor += seconds([&] { parseAndValidate(file.text, schemaPath); });
     ConstrHandler handler;
     const double read = seconds([&] { handler.read(file.path()); });
     library += read;
