@@ -79,7 +79,6 @@ TEST_F(ConstrWriterTest, RootKeysInTheirOrderObjectsAndKeysInCreationOrder)
   handler.getAttrConstr("n", "label")->getSrcInfo().set(SrcInfo::UserJson, "c.json", 5, 7);
   handler.setAttrConstr(Base::NODE, "m", "ratio", 0.25);
   handler.setAttrConstr(Base::NODE, "m", "margin", -1);
-  handler.addDmaFifoRecord("dma0", PhysicalSpec::Mem, 1, 2, 64, 128, 3);
   handler.addStreamFifoRecord("s0", PhysicalSpec::Core, 4, 5, 6);
   EXPECT_EQ(written(handler), R"({
   "NodeConstraints": {
@@ -98,16 +97,7 @@ TEST_F(ConstrWriterTest, RootKeysInTheirOrderObjectsAndKeysInCreationOrder)
   },
   "PortConstraints": {
     "fifo_locations_records": {
-      "dma_fifos": {
-        "dma0": {
-          "tile_type": "mem",
-          "row": 2,
-          "column": 1,
-          "size": 64,
-          "offset": 128,
-          "bankId": 3
-        }
-      },
+      "dma_fifos": {},
       "stream_fifos": {
         "s0": {
           "tile_type": "core",
