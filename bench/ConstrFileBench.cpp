@@ -83,11 +83,7 @@ double seconds(const Action& action)
 void validateAndPrint(const JDocument& document, const std::string& path,
                       const std::string& schemaPath)
 {
-  std::ifstream schemaFile(schemaPath, std::ios::binary);
-  rapidjson::IStreamWrapper schemaWrapper(schemaFile);
-  JDocument schemaDocument;
-  schemaDocument.ParseStream(schemaWrapper);
-  const rapidjson::SchemaDocument schema(schemaDocument);
+  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
   std::ofstream out(path);
   rapidjson::OStreamWrapper wrapper(out);
   PrettyWriter writer(wrapper);
@@ -95,7 +91,7 @@ void validateAndPrint(const JDocument& document, const std::string& path,
   writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
   IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
   rapidjson::GenericSchemaValidator<rapidjson::SchemaDocument, decltype(toWriter)> validator(
-      schema, toWriter);
+      *schema, toWriter);
   benchmark::DoNotOptimize(document.Accept(validator));
 }
 

@@ -6,23 +6,30 @@
 #include <rapidjson/schema.h>
 
 #include <fstream>
+#include <memory>
 #include <sstream>
 #include <string>
 
+// The schema at `schemaPath`, read and compiled anew as every reader and
+// writer does.
+inline std::unique_ptr<rapidjson::SchemaDocument> loadSchema(const std::string& schemaPath)
+{
+  std::ifstream schemaFile(schemaPath, std::ios::binary);
+  rapidjson::IStreamWrapper schemaWrapper(schemaFile);
+  JDocument schemaDocument;
+  schemaDocument.ParseStream(schemaWrapper);
+  return std::make_unique<rapidjson::SchemaDocument>(schemaDocument);
+}
+
 // The floor of a reader's time: RapidJSON alone parses `text` from a stream
-// and validates it with the schema at `schemaPath`, read and compiled anew
-// as every reader does.
+// and validates it with the schema at `schemaPath`.
 inline bool parseAndValidate(const std::string& text, const std::string& schemaPath)
 {
   std::istringstream in(text);
   rapidjson::IStreamWrapper wrapper(in);
   JDocument document;
   document.ParseStream(wrapper);
-  std::ifstream schemaFile(schemaPath, std::ios::binary);
-  rapidjson::IStreamWrapper schemaWrapper(schemaFile);
-  JDocument schemaDocument;
-  schemaDocument.ParseStream(schemaWrapper);
-  const rapidjson::SchemaDocument schema(schemaDocument);
-  rapidjson::SchemaValidator validator(schema);
+  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
+  rapidjson::SchemaValidator validator(*schema);
   return document.Accept(validator);
 }
