@@ -141,6 +141,17 @@ TEST_F(JsonFileFrameTest, FailedValidatedWriteLeavesTextUpToTheFailingValue)
   expectSent({{"@75-585@%s", ComMsgMgr::Error, {"NoC Traffic Spec"}}});
 }
 
+// Sub-schemas get validators of their own; they must not write.
+TEST_F(JsonFileFrameTest, WriteThroughSubSchemasWritesEachValueOnce)
+{
+  writeFile(schemaPath(), R"({"type": "object",
+    "patternProperties": {"^n": {"oneOf": [{"type": "string"}, {"type": "integer"}]}}})");
+  std::ostringstream out;
+  EXPECT_TRUE(JsonFileFrame::writeValidated(document(R"({"name": "a", "n2": 3})"), out,
+                                            schemaPath(), "Test File"));
+  EXPECT_EQ(out.str(), "{\n  \"name\": \"a\",\n  \"n2\": 3\n}");
+}
+
 TEST_F(JsonFileFrameTest, WriteFileRefusingAnUnopenedStreamNeverBuildsTheText)
 {
   bool called = false;

@@ -2,6 +2,7 @@
 
 #include "HUTFile.h"
 #include "HUTFileWriteStream.h"
+#include "ForwardingHandler.h"
 #include "IPConfigMessages.h"
 
 #include <rapidjson/istreamwrapper.h>
@@ -121,7 +122,9 @@ bool JsonFileFrame::writeThroughSchema(const JDocument& document, std::ostream& 
   rapidjson::OStreamWrapper wrapper(out);
   PrettyWriter writer(wrapper);
   setIndent(writer);
-  rapidjson::GenericSchemaValidator<JSchemaDocument, PrettyWriter> validator(*schema, writer);
+  ForwardingHandler<PrettyWriter> toWriter(writer);
+  rapidjson::GenericSchemaValidator<JSchemaDocument, ForwardingHandler<PrettyWriter>> validator(
+      *schema, toWriter);
   return document.Accept(validator);
 }
 
