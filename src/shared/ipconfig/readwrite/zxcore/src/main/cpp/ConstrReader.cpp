@@ -89,6 +89,9 @@ void ConstrReader::setSchema(const std::string& path)
 
 void ConstrReader::read(const std::string& path, bool validate)
 {
+  // The host's own check may report an unreadable file; the stream test
+  // below is what stops the read.
+  HUTFileUtils::checkFileForReading(path, {});
   std::ifstream in(path);
   read(in, path, validate);
 }
