@@ -2,6 +2,7 @@
 
 #include "TestSupport.h"
 
+#include "BaseConstraint.h"
 #include "ConstrHandler.h"
 
 #include <string>
@@ -32,6 +33,16 @@ private:
   testing_support::TempDir root_;
   testing_support::ScopedEnv kvrRoot_;
 };
+
+// The keys that a constraint adds to an empty object, as compact JSON.
+inline std::string written(const qpe::constraints::BaseConstraint& constr,
+                           const qpe::constraints::BaseNameResolver* resolver = nullptr)
+{
+  JDocument doc;
+  doc.SetObject();
+  constr.write(doc, doc, resolver);
+  return testing_support::toText(doc);
+}
 
 // A child of a host's handler, holding the constraints of tool-generated files.
 class ChildHandler : public qpe::constraints::ConstrHandler {

@@ -103,7 +103,7 @@ TEST(ConstrHandlerTest, QueriesByObjectAndName)
   EXPECT_EQ(handler.getConstr("x", "margin"), nullptr);
   EXPECT_EQ(handler.getConstr("p", Base::Attr), all[3]);
   EXPECT_EQ(handler.getConstr("p", Base::Tile), nullptr);
-  EXPECT_EQ(handler.getTileConstr("n"), nullptr) << "no tile kind yet";
+  EXPECT_EQ(handler.getTileConstr("n"), nullptr) << "an attribute of that name is no tile";
   EXPECT_EQ(handler.getAreaGroupConstr("n"), nullptr);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Address.h"
 #include "MemSpec.h"
 #include "PhysicalSpec.h"
 #include "ShimSpec.h"
@@ -8,7 +9,8 @@
 #include <string>
 
 // Locations built in one expression: each builder applies one setter to a
-// copy of the given location (a fresh core location by default) and returns it.
+// copy of the given location (a fresh core location by default) and returns
+// it. Addresses too.
 namespace spec_builders {
 
 using qpe::constraints::PhysicalSpec;
@@ -36,5 +38,16 @@ inline PhysicalSpec after(void (PhysicalSpec::*operation)(), PhysicalSpec spec)
   return spec;
 }
 inline PhysicalSpec shim(int x, int channel) { return index(channel, column(x, json::ShimSpec())); }
+
+// An address whose fields of -1 are unset.
+inline qpe::constraints::Address address(int column, int row, int bankId, int offset)
+{
+  qpe::constraints::Address made;
+  made.column.setIntVal(column);
+  made.row.setIntVal(row);
+  made.bankId.setIntVal(bankId);
+  made.offset.setIntVal(offset);
+  return made;
+}
 
 }  // namespace spec_builders

@@ -10,4 +10,20 @@ std::string Address::str() const
          std::to_string(bankId.getIntVal()) + "," + std::to_string(offset.getIntVal()) + ")";
 }
 
+std::string Address::labelledStr(const char* label) const
+{
+  return isComplete() ? label + ("=" + str()) : std::string();
+}
+
+bool Address::isComplete() const
+{
+  return (column.isSet() && row.isSet()) || (bankId.isSet() && offset.isSet());
+}
+
+void Address::offsetColumn(int delta)
+{
+  if (column.isSet())
+    column.setIntVal(column.getIntVal() + delta);
+}
+
 }  // namespace qpe::constraints

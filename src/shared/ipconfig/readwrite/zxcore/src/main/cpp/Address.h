@@ -15,6 +15,13 @@ public:
 
   // "(column,row,bankId,offset)"; an unset field prints as -1.
   std::string str() const;
+  // `label` + "=" + str() for a complete address, else "".
+  std::string labelledStr(const char* label) const;
+  // Names a place: a column and a row, or a bank and an offset.
+  bool isComplete() const;
+  // A set column moves by `delta`, and a sum of -1 unsets it; the other
+  // fields stay.
+  void offsetColumn(int delta);
 
   AttrValue column{HATAttrTypes::AttrInt};
   AttrValue row{HATAttrTypes::AttrInt};

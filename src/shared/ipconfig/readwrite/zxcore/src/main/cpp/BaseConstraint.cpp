@@ -336,6 +336,23 @@ void BaseConstraint::writeAddress(JDocument& doc, JValue& value, const Address& 
       Utils::AddIntegrProperty(value, key, field->getIntVal(), alloc);
 }
 
+bool BaseConstraint::writeAddresses(JDocument& doc, JValue& parent, const char* key,
+                                    std::initializer_list<const Address*> addresses)
+{
+  JAllocator& alloc = doc.GetAllocator();
+  JValue array(rapidjson::kArrayType);
+  for (const Address* address : addresses) {
+    JValue object(rapidjson::kObjectType);
+    writeAddress(doc, object, *address);
+    if (object.MemberCount() > 0)
+      array.PushBack(object, alloc);
+  }
+  if (array.Empty())
+    return false;
+  Utils::AddGenericValueProperty(parent, key, array, alloc);
+  return true;
+}
+
 void BaseConstraint::writeGroupSrcInfo(JDocument& doc, JValue& parent, const SrcInfo& srcInfo)
 {
   if (isFromSourceFile(srcInfo))

@@ -6,6 +6,7 @@
 #include "SrcInfo.h"
 #include "ipconfig_readwrite_export.h"
 
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
@@ -137,6 +138,10 @@ protected:
                                                    const char* key);
   // "column", "row", "bankId", "offset", each only if set.
   static void writeAddress(JDocument& doc, JValue& value, const Address& address);
+  // An array under `key` of the addresses that have a field, in order; false,
+  // and nothing written, when none has.
+  static bool writeAddresses(JDocument& doc, JValue& parent, const char* key,
+                             std::initializer_list<const Address*> addresses);
   // A group's location in another source file, under "srcInfo".
   static void writeGroupSrcInfo(JDocument& doc, JValue& parent, const SrcInfo& srcInfo);
 

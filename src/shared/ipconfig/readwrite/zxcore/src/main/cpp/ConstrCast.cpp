@@ -1,14 +1,19 @@
 #include "ConstrCast.h"
 
 #include "AttrConstr.h"
+#include "BufferConstr.h"
+#include "MemConstr.h"
+#include "ReservedMemoryConstr.h"
+#include "ShimConstr.h"
+#include "TileConstr.h"
 
 namespace qpe::constraints {
 
 // The kinds not built yet give null.
 
-BufferConstr* ConstrCast::toBuffer(BaseConstraint*)
+BufferConstr* ConstrCast::toBuffer(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<BufferConstr>(constr, BaseConstraint::Buffer);
 }
 
 const BufferConstr* ConstrCast::toBuffer(const BaseConstraint* constr)
@@ -16,9 +21,9 @@ const BufferConstr* ConstrCast::toBuffer(const BaseConstraint* constr)
   return toBuffer(const_cast<BaseConstraint*>(constr));
 }
 
-TileConstr* ConstrCast::toTile(BaseConstraint*)
+TileConstr* ConstrCast::toTile(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<TileConstr>(constr, BaseConstraint::Tile);
 }
 
 const TileConstr* ConstrCast::toTile(const BaseConstraint* constr)
@@ -26,9 +31,9 @@ const TileConstr* ConstrCast::toTile(const BaseConstraint* constr)
   return toTile(const_cast<BaseConstraint*>(constr));
 }
 
-MemConstr* ConstrCast::toMem(BaseConstraint*)
+MemConstr* ConstrCast::toMem(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<MemConstr>(constr, BaseConstraint::Mem);
 }
 
 const MemConstr* ConstrCast::toMem(const BaseConstraint* constr)
@@ -36,9 +41,9 @@ const MemConstr* ConstrCast::toMem(const BaseConstraint* constr)
   return toMem(const_cast<BaseConstraint*>(constr));
 }
 
-ReservedMemoryConstr* ConstrCast::toReservedMemory(BaseConstraint*)
+ReservedMemoryConstr* ConstrCast::toReservedMemory(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<ReservedMemoryConstr>(constr, BaseConstraint::ReservedMemory);
 }
 
 const ReservedMemoryConstr* ConstrCast::toReservedMemory(const BaseConstraint* constr)
@@ -46,9 +51,9 @@ const ReservedMemoryConstr* ConstrCast::toReservedMemory(const BaseConstraint* c
   return toReservedMemory(const_cast<BaseConstraint*>(constr));
 }
 
-ShimConstr* ConstrCast::toShim(BaseConstraint*)
+ShimConstr* ConstrCast::toShim(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<ShimConstr>(constr, BaseConstraint::Shim);
 }
 
 const ShimConstr* ConstrCast::toShim(const BaseConstraint* constr)

@@ -2,13 +2,18 @@
 
 #include "BaseNameResolver.h"
 #include "BaseVisitor.h"
+#include "BufferConstr.h"
 #include "ConstBaseVisitor.h"
 #include "ConstrCast.h"
 #include "ConstrReader.h"
 #include "ConstrUtils.h"
 #include "ConstrWriter.h"
 #include "HEXAlgException.h"
+#include "MemConstr.h"
 #include "PortRenamer.h"
+#include "ReservedMemoryConstr.h"
+#include "ShimConstr.h"
+#include "TileConstr.h"
 
 #include <boost/range/adaptor/filtered.hpp>
 
@@ -97,6 +102,16 @@ auto ConstrHandler::findOrCreate_(const std::string& objName, Find find, Create 
       constr = create();
   }
   return constr;
+}
+
+template <typename Kind>
+Kind* ConstrHandler::findOrCreateKind_(ConstrType constrType, ObjectType objType,
+                                       const std::string& objName,
+                                       Kind* (*cast)(BaseConstraint*))
+{
+  return findOrCreate_(
+      objName, [&] { return firstOfKind_(objName, cast); },
+      [&] { return cast(createConstr(constrType, objType, objName)); });
 }
 
 template <typename Value>
@@ -441,6 +456,68 @@ void ConstrHandler::setAttrConstr(ObjectType objType, const std::string& objName
   setAttrConstr(objType, objName, attrName, std::string(value));
 }
 
+void ConstrHandler::setBufferConstr(const std::string& objName, const Address& ping,
+                                    const Address& pong, const Address& rtpSelector)
+{
+  if (BufferConstr* buffer = findOrCreateKind_(BaseConstraint::Buffer, BaseConstraint::PORT,
+                                               objName, &ConstrCast::toBuffer)) {
+    buffer->ping = ping;
+    buffer->pong = pong;
+    buffer->rtpSelector = rtpSelector;
+  }
+}
+
+void ConstrHandler::setTileConstr(const std::string& objName, int column, int row,
+                                  PhysicalSpec::PhysicalType tileType)
+{
+  if (TileConstr* tile = findOrCreateKind_(BaseConstraint::Tile, BaseConstraint::NODE, objName,
+                                           &ConstrCast::toTile)) {
+    tile->setXY(column, row);
+    tile->setTileType(tileType);
+  }
+}
+
+void ConstrHandler::setTileConstr(const std::string& objName, const std::string& name)
+{
+  if (TileConstr* tile = findOrCreateKind_(BaseConstraint::Tile, BaseConstraint::NODE, objName,
+                                           &ConstrCast::toTile))
+    tile->setName(name);
+}
+
+void ConstrHandler::setMemConstr(const std::string& objName, const Address& ping,
+                                 const Address& pong)
+{
+  if (MemConstr* mem = findOrCreateKind_(BaseConstraint::Mem, BaseConstraint::NODE, objName,
+                                         &ConstrCast::toMem)) {
+    mem->ping = ping;
+    mem->pong = pong;
+  }
+}
+
+void ConstrHandler::setReservedMemoryConstr(const std::string& objName, const Address& address)
+{
+  if (ReservedMemoryConstr* reserved =
+          findOrCreateKind_(BaseConstraint::ReservedMemory, BaseConstraint::NODE, objName,
+                            &ConstrCast::toReservedMemory))
+    reserved->address = address;
+}
+
+void ConstrHandler::setShimConstr(const std::string& objName, const std::string& name)
+{
+  if (ShimConstr* shim = findOrCreateKind_(BaseConstraint::Shim, BaseConstraint::NODE, objName,
+                                           &ConstrCast::toShim))
+    shim->setName(name);
+}
+
+void ConstrHandler::setShimConstr(const std::string& objName, int column, int channel)
+{
+  if (ShimConstr* shim = findOrCreateKind_(BaseConstraint::Shim, BaseConstraint::NODE, objName,
+                                           &ConstrCast::toShim)) {
+    shim->setColumn(column);
+    shim->setChannel(channel);
+  }
+}
+
 const DmaFifoRecord* ConstrHandler::addDmaFifoRecord(const std::string& name,
                                                      PhysicalSpec::PhysicalType tileType,
                                                      int column, int row, int size, int offset,
@@ -505,10 +582,17 @@ void ConstrHandler::addConstraint(BaseConstraint* constr)
     groups[name].push_back(constr);
 }
 
-BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType,
-                                            const std::string&)
+BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType objType,
+                                            const std::string& objName)
 {
-  throw unsupportedType("createConstr", constrType);
+  switch (constrType) {
+  case BaseConstraint::Buffer: return make_<BufferConstr>(objType, objName);
+  case BaseConstraint::ReservedMemory: return make_<ReservedMemoryConstr>(objType, objName);
+  case BaseConstraint::Tile: return make_<TileConstr>(objType, objName);
+  case BaseConstraint::Mem: return make_<MemConstr>(objType, objName);
+  case BaseConstraint::Shim: return make_<ShimConstr>(objType, objName);
+  default: throw unsupportedType("createConstr", constrType);
+  }
 }
 
 BaseConstraint* ConstrHandler::createGlobalConstr(ConstrType constrType, const std::string&)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Address.h"
 #include "AttrConstr.h"
 #include "BaseConstraint.h"
 #include "ConstrForward.h"
@@ -123,6 +124,19 @@ public:
   void setAttrConstr(ObjectType objType, const std::string& objName, const std::string& attrName,
                      const char* value);
 
+  // Placement: nothing for an empty object name. The object's constraint of
+  // the kind, made if it has none, takes the place given.
+  virtual void setBufferConstr(const std::string& objName, const Address& ping, const Address& pong,
+                               const Address& rtpSelector);
+  virtual void setTileConstr(const std::string& objName, int column, int row,
+                             PhysicalSpec::PhysicalType tileType);
+  // By the tile's name; the tile type stays.
+  virtual void setTileConstr(const std::string& objName, const std::string& name);
+  virtual void setMemConstr(const std::string& objName, const Address& ping, const Address& pong);
+  virtual void setReservedMemoryConstr(const std::string& objName, const Address& address);
+  virtual void setShimConstr(const std::string& objName, const std::string& name);
+  virtual void setShimConstr(const std::string& objName, int column, int channel);
+
   // FIFO records, forwarded to the table.
   virtual const DmaFifoRecord* addDmaFifoRecord(const std::string& name,
                                                 PhysicalSpec::PhysicalType tileType, int column,
@@ -188,6 +202,10 @@ private:
   // gives, else the one that `create` makes.
   template <typename Find, typename Create>
   static auto findOrCreate_(const std::string& objName, Find find, Create create);
+  // The set shape for a kind on a node, port or net.
+  template <typename Kind>
+  Kind* findOrCreateKind_(ConstrType constrType, ObjectType objType, const std::string& objName,
+                          Kind* (*cast)(BaseConstraint*));
   template <typename Value>
   void setAttr_(ObjectType objType, const std::string& objName, const std::string& attrName,
                 AttrConstr::AttrType type, Value value);

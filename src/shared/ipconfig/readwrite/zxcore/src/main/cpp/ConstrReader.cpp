@@ -2,6 +2,7 @@
 
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
+#include "ConstrUtils.h"
 #include "HEXAlgException.h"
 #include "HUTEnv.h"
 #include "HUTFile.h"
@@ -15,6 +16,7 @@
 #include <boost/algorithm/string/predicate.hpp>
 #include <boost/filesystem/path.hpp>
 
+#include <array>
 #include <fstream>
 
 namespace qpe::constraints {
@@ -300,16 +302,32 @@ void ConstrReader::readFifoLocationsRecords_(const JValue& records)
 void ConstrReader::parseNodeBaseConstraint_(const JValue& value, const std::string& key,
                                             const std::string& objName)
 {
-  if (!isSrcInfoBaseConstraint(key))
+  if (key == "tile") {
+    parseTileConstraint_(value, objName);
+  } else if (key == "mem") {
+    std::array<Address, 2> addresses;
+    if (parseAddresses_(value, objName, addresses.data(), addresses.size()))
+      handler.setMemConstr(objName, addresses[0], addresses[1]);
+  } else if (key == "shim") {
+    parseShimConstraint_(value, objName);
+  } else if (key == "reserved_memory") {
+    parseReservedMemoryConstraint_(value, objName);
+  } else if (!isSrcInfoBaseConstraint(key)) {
     parseAttrBaseConstraint_(value, key, BaseConstraint::NODE, objName);
+  }
 }
 
 // As for nodes, with the keys of the port kinds.
 void ConstrReader::parsePortBaseConstraint_(const JValue& value, const std::string& key,
                                             const std::string& objName)
 {
-  if (!isSrcInfoBaseConstraint(key))
+  if (key == "buffers") {
+    std::array<Address, 3> addresses;
+    if (parseAddresses_(value, objName, addresses.data(), addresses.size()))
+      handler.setBufferConstr(objName, addresses[0], addresses[1], addresses[2]);
+  } else if (!isSrcInfoBaseConstraint(key)) {
     parseAttrBaseConstraint_(value, key, BaseConstraint::PORT, objName);
+  }
 }
 
 // Other values, and integers beyond 32 bits, are no attribute.
@@ -327,6 +345,76 @@ void ConstrReader::parseAttrBaseConstraint_(const JValue& value, const std::stri
     handler.setAttrConstr(objType, objName, key, value.GetDouble());
   else
     handler.setAttrConstr(objType, objName, key, text(value));
+}
+
+// A name, else a column or a row; the tile type defaults to core.
+void ConstrReader::parseTileConstraint_(const JValue& value, const std::string& objName)
+{
+  const std::string name = Json::GetStringProperty(value, "name");
+  if (!name.empty()) {
+    handler.setTileConstr(objName, name);
+    return;
+  }
+  if (!Json::IsIntegrProperty(value, "column") && !Json::IsIntegrProperty(value, "row"))
+    return;
+  handler.setTileConstr(
+      objName, integerOr(value, "column"), integerOr(value, "row"),
+      PhysicalSpec::toPhysicalSpecTileType(Json::GetStringProperty(value, "tile_type")));
+}
+
+// A name, else a column of 0 or more with its channel.
+void ConstrReader::parseShimConstraint_(const JValue& value, const std::string& objName)
+{
+  const std::string name = Json::GetStringProperty(value, "name");
+  if (!name.empty()) {
+    handler.setShimConstr(objName, name);
+    return;
+  }
+  const int column = integerOr(value, "column");
+  if (isValSet(column))
+    handler.setShimConstr(objName, column, integerOr(value, "channel"));
+}
+
+void ConstrReader::parseReservedMemoryConstraint_(const JValue& value, const std::string& objName)
+{
+  Address address;
+  parseAddress_(value, address);
+  if (address.isComplete())
+    handler.setReservedMemoryConstr(objName, address);
+}
+
+bool ConstrReader::parseAddresses_(const JValue& value, const std::string& objName,
+                                   Address* addresses, std::size_t count)
+{
+  const char* refusal = nullptr;
+  if (!value.IsArray())
+    refusal = "@75-579@%s%s";
+  else if (value.Empty())
+    refusal = "@75-574@%s%s";
+  else if (value.Size() > 3)
+    refusal = "@75-584@%s%s";
+  if (refusal) {
+    IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, refusal, jsonPath, objName);
+    return false;
+  }
+  for (rapidjson::SizeType i = 0; i < value.Size() && i < count; ++i)
+    parseAddress_(value[i], addresses[i]);
+  return true;
+}
+
+bool ConstrReader::parseAddress_(const JValue& value, Address& address)
+{
+  const int column = integerOr(value, "column");
+  const int row = integerOr(value, "row");
+  const int bankId = integerOr(value, "bankId");
+  const int offset = integerOr(value, "offset");
+  if (!isValSet(column) && !isValSet(row) && !isValSet(bankId) && !isValSet(offset))
+    return false;
+  address.column = AttrValue(column, -1);
+  address.row = AttrValue(row, -1);
+  address.bankId = AttrValue(bankId, -1);
+  address.offset = AttrValue(offset, -1);
+  return true;
 }
 
 void ConstrReader::parseDmaFifoRecord_(const JValue& value, const std::string& name)

@@ -5,6 +5,7 @@
 #include "JsonFileFrame.h"
 #include "ipconfig_readwrite_export.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <memory>
@@ -12,6 +13,7 @@
 
 namespace qpe::constraints {
 
+class Address;
 class BaseNameResolver;
 class ConstrHandler;
 class LineFinder;
@@ -22,7 +24,8 @@ class LineFinder;
 // constraint for each key, with the place of the key in the file or the
 // source location that the file gives for it. A file that says it is tool
 // generated goes to the handler's child. A read adds to the handler, and
-// what it added stays when a later step fails.
+// what it added stays when a later step fails. Content that can be passed
+// over is reported (critical warnings) and the read goes on.
 class IPCONFIG_READWRITE_EXPORT ConstrReader {
 public:
   // Names resolve to themselves.
@@ -78,6 +81,15 @@ private:
                                 const std::string& objName);
   void parseAttrBaseConstraint_(const JValue& value, const std::string& key,
                                 BaseConstraint::ObjectType objType, const std::string& objName);
+  void parseTileConstraint_(const JValue& value, const std::string& objName);
+  void parseShimConstraint_(const JValue& value, const std::string& objName);
+  void parseReservedMemoryConstraint_(const JValue& value, const std::string& objName);
+  // The first `count` of an array of one to three addresses; false, reported,
+  // for any other value.
+  bool parseAddresses_(const JValue& value, const std::string& objName, Address* addresses,
+                       std::size_t count);
+  // An address with a field of 0 or more; otherwise false, and `address` stays.
+  static bool parseAddress_(const JValue& value, Address& address);
   void parseDmaFifoRecord_(const JValue& value, const std::string& name);
   void parseStreamFifoRecord_(const JValue& value, const std::string& name);
   void setUserJsonSrcInfo_(const std::string& key, const std::string& objName);

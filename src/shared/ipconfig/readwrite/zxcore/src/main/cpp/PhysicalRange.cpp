@@ -2,16 +2,6 @@
 
 namespace qpe::constraints {
 
-namespace {
-
-void offsetEndColumn(PhysicalSpec& end, int delta)
-{
-  if (end.isColumnSet() && !end.isNameSet())
-    end.setXY(end.getColumn() + delta, end.getRow());
-}
-
-}  // namespace
-
 PhysicalRange::PhysicalRange(const PhysicalSpec& only) : first(only) {}
 
 PhysicalRange::PhysicalRange(const PhysicalSpec& low, const PhysicalSpec& high)
@@ -74,8 +64,8 @@ void PhysicalRange::setRect(const HDRectangle<int>& rect)
 
 void PhysicalRange::offsetColumn(int delta)
 {
-  offsetEndColumn(first, delta);
-  offsetEndColumn(second, delta);
+  first.offsetColumn(delta);
+  second.offsetColumn(delta);
 }
 
 std::string PhysicalRange::str() const

@@ -283,4 +283,10 @@ bool PhysicalSpec::isSet() const
   return isNameSet() || isColumnSet();
 }
 
+void PhysicalSpec::offsetColumn(int delta)
+{
+  if (isColumnSet() && !isNameSet())
+    setXY(getColumn() + delta, getRow());
+}
+
 }  // namespace qpe::constraints

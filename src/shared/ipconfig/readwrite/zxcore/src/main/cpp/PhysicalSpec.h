@@ -10,6 +10,8 @@
 
 namespace qpe::constraints {
 
+class TileConstr;
+
 // One location on the compute array as the user wrote it: by name, or by
 // column and row (column and channel for a shim). Nothing is checked against
 // a device. Every entry to one form clears the other, so a location is name
@@ -95,6 +97,16 @@ public:
   virtual void clearCoords();
 
   bool isSet() const;
+  // Moves a coordinate-based location by `delta` columns through setXY, so
+  // that its bank and offset are lost and its index kept; a name-based or
+  // unset location stays.
+  void offsetColumn(int delta);
+
+protected:
+  // A location keeps the type it was made with. The one exception is the
+  // location of a tile constraint, whose tile type is this type.
+  void setPhysicalType(PhysicalType type) { physicalType = type; }
+  friend class TileConstr;
 
 private:
   AttrValue name;
