@@ -96,6 +96,24 @@ INSTANTIATE_TEST_SUITE_P(
         KindCase{"ReservedMemory",
                  [](ConstrHandler& h) { h.setReservedMemoryConstr("n", address(5, 1, 0, 0)); },
                  "top/n", R"({"reserved_memory":{"column":5,"row":1,"bankId":0,"offset":0}})",
-                 R"({"reserved_memory":{"column":8,"row":1,"bankId":0,"offset":0}})"}));
+                 R"({"reserved_memory":{"column":8,"row":1,"bankId":0,"offset":0}})"},
+        KindCase{"AreaGroup",
+                 [](ConstrHandler& h) {
+                   h.setAreaGroupConstr("g", {"a", "b"},
+                                        {PhysicalRange(at(1, 0), at(2, 0)),
+                                         PhysicalRange(named("m", json::MemSpec())),
+                                         PhysicalRange(shim(3, 1))},
+                                        true, false, false, false, true);
+                 },
+                 "g",
+                 R"j({"areaGroup":{"name":"g","exclude":true,"exclusive_placement":true,)j"
+                 R"j("nodeGroup":["a","b"],"tileGroup":["(1,0):(2,0)"],)j"
+                 R"j("memGroup":["m"],"shimGroup":["(3,1)"]}})j",
+                 R"j({"areaGroup":{"name":"g","exclude":true,"exclusive_placement":true,)j"
+                 R"j("nodeGroup":["a","b"],"tileGroup":["(4,0):(5,0)"],)j"
+                 R"j("memGroup":["m"],"shimGroup":["(6,1)"]}})j",
+                 R"j({"areaGroup":{"name":"g","exclude":true,"exclusive_placement":true,)j"
+                 R"j("nodeGroup":["top/a","top/b"],"tileGroup":["(1,0):(2,0)"],)j"
+                 R"j("memGroup":["m"],"shimGroup":["(3,1)"]}})j"}));
 
 }  // namespace

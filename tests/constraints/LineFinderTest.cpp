@@ -139,17 +139,28 @@ TEST(LineFinderTest, GeneratedFilesAgreeWithTheScan)
   }
 }
 
+// Placement keys beside their source keys, which hold the key's text but not
+// quoted alone, and groups whose names are node names too; a group is found
+// by its name alone.
 TEST(LineFinderTest, AGeneratedConstraintsFileAgreesWithTheScan)
 {
   std::string text = "{\n  \"NodeConstraints\": {\n";
-  std::vector<std::string> texts{"NodeConstraints", "margin", "label"};
+  std::vector<std::string> texts{"",     "NodeConstraints", "margin",    "label", "tile",
+                                 "shim", "tile_src_info",   "areaGroup", "name",  "g"};
+  const std::string tile = "      \"tile\": {\"column\": 1},\n";
+  const std::string tileSrcInfo = "      \"tile_src_info\": {\"file\": \"tile\"},\n";
   for (int i = 0; i < 40; ++i) {
     const std::string name = "top/n" + std::to_string(i % 25);
     texts.push_back(name);
-    text += "    \"" + name + "\": {\n      \"margin\": " + std::to_string(i) +
-            ",\n      \"label\": \"top/n" + std::to_string(i + 1) + "\"\n    },\n";
+    text += "    \"" + name + "\": {\n" + (i % 3 == 0 ? tileSrcInfo + tile : tile + tileSrcInfo) +
+            (i % 4 == 0 ? "      \"shim\": {\"name\": \"shim\"},\n" : "") +
+            "      \"margin\": " + std::to_string(i) + ",\n      \"label\": \"top/n" +
+            std::to_string(i + 1) + "\"\n    },\n";
   }
-  text += "    \"last\": {}\n  }\n}";
+  text += "    \"last\": {}\n  },\n  \"GlobalConstraints\": {\n";
+  for (int i = 0; i < 30; i += 7)
+    text += "    \"areaGroup\": {\"name\": \"top/n" + std::to_string(i) + "\"},\n";
+  text += "    \"areaGroup\": {\"name\": \"g\"}\n  }\n}";
   const TempDir dir;
   writeFile(dir.file("c.json"), text);
   expectSameAsScan(dir.file("c.json"), texts);

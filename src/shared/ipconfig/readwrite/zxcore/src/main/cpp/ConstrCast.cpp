@@ -1,5 +1,6 @@
 #include "ConstrCast.h"
 
+#include "AreaGroupConstr.h"
 #include "AttrConstr.h"
 #include "BufferConstr.h"
 #include "MemConstr.h"
@@ -151,9 +152,9 @@ const ColocatedMemoriesConstr* ConstrCast::toColocatedMemories(const BaseConstra
   return toColocatedMemories(const_cast<BaseConstraint*>(constr));
 }
 
-AreaGroupConstr* ConstrCast::toAreaGroup(BaseConstraint*)
+AreaGroupConstr* ConstrCast::toAreaGroup(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<AreaGroupConstr>(constr, BaseConstraint::AreaGroup);
 }
 
 const AreaGroupConstr* ConstrCast::toAreaGroup(const BaseConstraint* constr)

@@ -1,5 +1,6 @@
 #include "ConstrHandler.h"
 
+#include "AreaGroupConstr.h"
 #include "BaseNameResolver.h"
 #include "BaseVisitor.h"
 #include "BufferConstr.h"
@@ -112,6 +113,15 @@ Kind* ConstrHandler::findOrCreateKind_(ConstrType constrType, ObjectType objType
   return findOrCreate_(
       objName, [&] { return firstOfKind_(objName, cast); },
       [&] { return cast(createConstr(constrType, objType, objName)); });
+}
+
+template <typename Kind>
+Kind* ConstrHandler::findOrCreateGroup_(ConstrType groupType, const std::string& name,
+                                        Kind* (*cast)(BaseConstraint*))
+{
+  return findOrCreate_(
+      name, [&] { return firstGroup_(groupType, name, cast); },
+      [&] { return cast(createGlobalConstr(groupType, name)); });
 }
 
 template <typename Value>
@@ -518,6 +528,21 @@ void ConstrHandler::setShimConstr(const std::string& objName, int column, int ch
   }
 }
 
+void ConstrHandler::setAreaGroupConstr(const std::string& name,
+                                       const std::vector<std::string>& nodes,
+                                       const std::vector<PhysicalRange>& ranges, bool exclude,
+                                       bool isSoft, bool containRouting, bool exclusiveRouting,
+                                       bool exclusivePlacement)
+{
+  AreaGroupConstr* group =
+      findOrCreateGroup_(BaseConstraint::AreaGroup, name, &ConstrCast::toAreaGroup);
+  if (!group)
+    return;
+  group->setNodeGroup(nodes);
+  group->setPhysicalGroup(ranges);
+  group->setFlags({exclude, isSoft, containRouting, exclusiveRouting, exclusivePlacement});
+}
+
 const DmaFifoRecord* ConstrHandler::addDmaFifoRecord(const std::string& name,
                                                      PhysicalSpec::PhysicalType tileType,
                                                      int column, int row, int size, int offset,
@@ -531,6 +556,23 @@ const StreamFifoRecord* ConstrHandler::addStreamFifoRecord(const std::string& na
                                                            int column, int row, int channel)
 {
   return records.addStreamFifoRecord(name, tileType, column, row, channel);
+}
+
+void ConstrHandler::addAreaGroupConstr(const std::string& name,
+                                       const std::vector<std::string>& nodes,
+                                       const std::vector<PhysicalRange>& ranges, bool exclude,
+                                       bool isSoft, bool containRouting, bool exclusiveRouting,
+                                       bool exclusivePlacement)
+{
+  if (name.empty())
+    return;
+  if (AreaGroupConstr* group = getAreaGroupConstr(name)) {
+    group->addNodeGroup(nodes);
+    group->addPhysicalGroup(ranges);
+    return;
+  }
+  setAreaGroupConstr(name, nodes, ranges, exclude, isSoft, containRouting, exclusiveRouting,
+                     exclusivePlacement);
 }
 
 void ConstrHandler::copy(const ConstrHandler& from, const BaseNameResolver& resolver)
@@ -595,9 +637,12 @@ BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType ob
   }
 }
 
-BaseConstraint* ConstrHandler::createGlobalConstr(ConstrType constrType, const std::string&)
+BaseConstraint* ConstrHandler::createGlobalConstr(ConstrType constrType, const std::string& name)
 {
-  throw unsupportedType("createGlobalConstr", constrType);
+  switch (constrType) {
+  case BaseConstraint::AreaGroup: return make_<AreaGroupConstr>(name);
+  default: throw unsupportedType("createGlobalConstr", constrType);
+  }
 }
 
 AttrConstr* ConstrHandler::createAttrConstr(ObjectType objType, const std::string& objName,

@@ -5,6 +5,7 @@
 #include "BaseConstraint.h"
 #include "ConstrForward.h"
 #include "FifoLocationsRecords.h"
+#include "PhysicalRange.h"
 #include "PhysicalSpec.h"
 #include "ipconfig_readwrite_export.h"
 
@@ -136,6 +137,12 @@ public:
   virtual void setReservedMemoryConstr(const std::string& objName, const Address& address);
   virtual void setShimConstr(const std::string& objName, const std::string& name);
   virtual void setShimConstr(const std::string& objName, int column, int channel);
+  // Area groups: nothing for an empty name. The group of that name, made if
+  // there is none, takes the nodes, ranges and flags given.
+  virtual void setAreaGroupConstr(const std::string& name, const std::vector<std::string>& nodes,
+                                  const std::vector<PhysicalRange>& ranges, bool exclude,
+                                  bool isSoft, bool containRouting, bool exclusiveRouting,
+                                  bool exclusivePlacement);
 
   // FIFO records, forwarded to the table.
   virtual const DmaFifoRecord* addDmaFifoRecord(const std::string& name,
@@ -144,6 +151,12 @@ public:
   virtual const StreamFifoRecord* addStreamFifoRecord(const std::string& name,
                                                       PhysicalSpec::PhysicalType tileType,
                                                       int column, int row, int channel);
+  // The nodes and ranges join those of an existing group, whose flags stay;
+  // a new group is made as by setAreaGroupConstr.
+  virtual void addAreaGroupConstr(const std::string& name, const std::vector<std::string>& nodes,
+                                  const std::vector<PhysicalRange>& ranges, bool exclude,
+                                  bool isSoft, bool containRouting, bool exclusiveRouting,
+                                  bool exclusivePlacement);
 
   // Clones every constraint of `from` into this handler through the set and
   // add operations, so that they merge into what is here, then copies the
@@ -202,10 +215,13 @@ private:
   // gives, else the one that `create` makes.
   template <typename Find, typename Create>
   static auto findOrCreate_(const std::string& objName, Find find, Create create);
-  // The set shape for a kind on a node, port or net.
+  // The set shape for a kind on a node, port or net, and for a group kind.
   template <typename Kind>
   Kind* findOrCreateKind_(ConstrType constrType, ObjectType objType, const std::string& objName,
                           Kind* (*cast)(BaseConstraint*));
+  template <typename Kind>
+  Kind* findOrCreateGroup_(ConstrType groupType, const std::string& name,
+                           Kind* (*cast)(BaseConstraint*));
   template <typename Value>
   void setAttr_(ObjectType objType, const std::string& objName, const std::string& attrName,
                 AttrConstr::AttrType type, Value value);

@@ -1,5 +1,6 @@
 #include "ConstrReader.h"
 
+#include "AreaGroupConstr.h"
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
 #include "ConstrUtils.h"
@@ -8,7 +9,10 @@
 #include "HUTFile.h"
 #include "HUTFileUtils.h"
 #include "IPConfigMessages.h"
+#include "JMemValue.h"
+#include "JShimValue.h"
 #include "JSimpleValue.h"
+#include "JTileValue.h"
 #include "JsonValueUtils.h"
 #include "LineFinder.h"
 #include "SchemaFile.h"
@@ -91,23 +95,22 @@ void ConstrReader::setSchema(const std::string& path)
 
 void ConstrReader::read(const std::string& path, bool validate)
 {
-  // The host's own check may report an unreadable file; the stream test
-  // below is what stops the read.
-  HUTFileUtils::checkFileForReading(path, {});
-  std::ifstream in(path);
-  read(in, path, validate);
+  readFile_(path, validate, &ConstrReader::readConstraints_);
 }
 
 void ConstrReader::read(std::istream& in, const std::string& path, bool validate)
 {
-  reset();
-  if (!in.good())
-    Json::errorReadingJsonFile(path);
-  jsonPath = path;
-  readSchema_();
-  readJson_(in, validate);
-  readConstraints_();
-  reset();
+  readStream_(in, path, validate, &ConstrReader::readConstraints_);
+}
+
+void ConstrReader::readAreaGroupConstrs(const std::string& path, bool validate)
+{
+  readFile_(path, validate, &ConstrReader::readGlobalConstraints_);
+}
+
+void ConstrReader::readAreaGroupConstrs(std::istream& in, const std::string& path, bool validate)
+{
+  readStream_(in, path, validate, &ConstrReader::readGlobalConstraints_);
 }
 
 std::string ConstrReader::getSchemaFile() const
@@ -161,6 +164,28 @@ bool ConstrReader::isAttrBaseConstraint(const JValue& value)
   return json::JSimpleValue(value).isValid();
 }
 
+void ConstrReader::readFile_(const std::string& path, bool validate, ReadSections readSections)
+{
+  // The host's own check may report an unreadable file; the stream test
+  // below is what stops the read.
+  HUTFileUtils::checkFileForReading(path, {});
+  std::ifstream in(path);
+  readStream_(in, path, validate, readSections);
+}
+
+void ConstrReader::readStream_(std::istream& in, const std::string& path, bool validate,
+                               ReadSections readSections)
+{
+  reset();
+  if (!in.good())
+    Json::errorReadingJsonFile(path);
+  jsonPath = path;
+  readSchema_();
+  readJson_(in, validate);
+  (this->*readSections)();
+  reset();
+}
+
 void ConstrReader::readSchema_()
 {
   schema = SchemaFile::load(getSchemaFile());
@@ -186,6 +211,7 @@ void ConstrReader::readConstraints_()
   readNodeConstraints_();
   readPortConstraints_();
   readNetConstraints_();
+  readGlobalConstraints_();
 }
 
 // The file is read again from its path, validated, into the child.
@@ -257,6 +283,15 @@ void ConstrReader::readNetConstraints_()
           parseSrcInfo_(value, key, resolved);
         });
       });
+}
+
+// Groups of one kind are members of one key: they are walked, not looked up.
+void ConstrReader::readGlobalConstraints_()
+{
+  forEachMember(json::JBaseValue::member(*document, "GlobalConstraints"),
+                [this](const std::string& key, const JValue& value) {
+                  parseGlobalBaseConstraint_(key, value);
+                });
 }
 
 // A key's source location is the "_src_info" key right behind it, if there
@@ -417,6 +452,79 @@ bool ConstrReader::parseAddress_(const JValue& value, Address& address)
   return true;
 }
 
+void ConstrReader::parseGlobalBaseConstraint_(const std::string& key, const JValue& value)
+{
+  if (key == "areaGroup")
+    parseAreaGroupBaseConstraint_(value);
+}
+
+// The ranges are read by kind, tile, shim and mem, and so held in that order.
+// A group of a name read before merges into it.
+void ConstrReader::parseAreaGroupBaseConstraint_(const JValue& value)
+{
+  const std::string name = json::readStringValue(value, "name");
+  if (name.empty())
+    return;
+  std::vector<std::string> nodes = json::readStringArrayValue(value, "nodeGroup");
+  resolver->resolveNodeNames(nodes);
+  std::vector<PhysicalRange> ranges;
+  const std::pair<const char*, ParseGroupValue> groups[] = {
+      {"tileGroup", &ConstrReader::parseTileGroupValue_},
+      {"shimGroup", &ConstrReader::parseShimGroupValue_},
+      {"memGroup", &ConstrReader::parseMemGroupValue_},
+  };
+  for (const auto& [key, parse] : groups) {
+    const JValue& elements = json::JBaseValue::member(value, key);
+    if (elements.IsArray())
+      for (const JValue& element : elements.GetArray())
+        (this->*parse)(element, name, ranges);
+  }
+  handler.addAreaGroupConstr(
+      name, nodes, ranges, Json::GetBooleanProperty(value, "exclude"),
+      Json::GetBooleanProperty(value, "issoft"), Json::GetBooleanProperty(value, "contain_routing"),
+      Json::GetBooleanProperty(value, "exclusive_routing"),
+      Json::GetBooleanProperty(value, "exclusive_placement"));
+  parseAreaGroupSrcInfo_(value, "areaGroup", name);
+}
+
+void ConstrReader::parseTileGroupValue_(const JValue& value, const std::string& group,
+                                        std::vector<PhysicalRange>& ranges)
+{
+  parseGroupValue_<json::JTileValue>(value, group, ranges, "@75-596@%s%s%s", "@75-588@%s%s");
+}
+
+void ConstrReader::parseMemGroupValue_(const JValue& value, const std::string& group,
+                                       std::vector<PhysicalRange>& ranges)
+{
+  parseGroupValue_<json::JMemValue>(value, group, ranges, "@75-748@%s%s%s", "@75-747@%s%s");
+}
+
+void ConstrReader::parseShimGroupValue_(const JValue& value, const std::string& group,
+                                        std::vector<PhysicalRange>& ranges)
+{
+  parseGroupValue_<json::JShimValue>(value, group, ranges, "@75-595@%s%s%s", "@75-587@%s%s");
+}
+
+template <typename Location>
+void ConstrReader::parseGroupValue_(const JValue& value, const std::string& group,
+                                    std::vector<PhysicalRange>& ranges, const char* badWithText,
+                                    const char* badWithoutText)
+{
+  Location location(value);
+  location.parse();
+  if (location.isValid()) {
+    if (location.getSecond().isSet())
+      ranges.emplace_back(location.getFirst(), location.getSecond());
+    else
+      ranges.emplace_back(location.getFirst());
+  } else if (!location.getText().empty()) {
+    IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, badWithText, jsonPath, group,
+                      location.getText());
+  } else {
+    IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, badWithoutText, jsonPath, group);
+  }
+}
+
 void ConstrReader::parseDmaFifoRecord_(const JValue& value, const std::string& name)
 {
   handler.addDmaFifoRecord(
@@ -460,6 +568,38 @@ void ConstrReader::parseSrcInfo_(const JValue& value, const std::string& key,
   std::uint32_t column = 0;
   if (constr && json::readSrcInfo(value, file, line, column))
     constr->getSrcInfo().set(SrcInfo::SourceFile, file, line, column);
+}
+
+// A group's location: where its name first stands in this file, or the
+// source location that its "srcInfo" gives.
+void ConstrReader::parseAreaGroupSrcInfo_(const JValue& value, const std::string& key,
+                                          const std::string& name)
+{
+  SrcInfo* srcInfo = getGroupSrcInfo_(key, name);
+  if (!srcInfo)
+    return;
+  setUserJsonAreaGroupSrcInfo_(name, *srcInfo);
+  std::string file;
+  std::uint32_t line = 0;
+  std::uint32_t column = 0;
+  if (json::readSrcInfo(json::JBaseValue::member(value, "srcInfo"), file, line, column))
+    srcInfo->set(SrcInfo::SourceFile, file, line, column);
+}
+
+SrcInfo* ConstrReader::getGroupSrcInfo_(const std::string& key, const std::string& name) const
+{
+  BaseConstraint* group = nullptr;
+  if (key == "areaGroup")
+    group = handler.getAreaGroupConstr(name);
+  return group ? &group->getSrcInfo() : nullptr;
+}
+
+void ConstrReader::setUserJsonAreaGroupSrcInfo_(const std::string& name, SrcInfo& srcInfo)
+{
+  std::uint32_t line = 0;
+  std::uint32_t column = 0;
+  locations_().finder.find({name}, line, column);
+  srcInfo.set(SrcInfo::UserJson, locations_().recordedPath, line, column);
 }
 
 // The key on a line after the first line that holds the object's name.

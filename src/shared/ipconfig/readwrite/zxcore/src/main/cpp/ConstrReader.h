@@ -10,6 +10,7 @@
 #include <iosfwd>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace qpe::constraints {
 
@@ -17,15 +18,16 @@ class Address;
 class BaseNameResolver;
 class ConstrHandler;
 class LineFinder;
+class PhysicalRange;
 
 // Reads a constraints file into a handler: validates it against the
-// constraints schema, walks "NodeConstraints", "PortConstraints" and
-// "NetConstraints" in that order, resolves each object's name, and sets one
-// constraint for each key, with the place of the key in the file or the
-// source location that the file gives for it. A file that says it is tool
-// generated goes to the handler's child. A read adds to the handler, and
-// what it added stays when a later step fails. Content that can be passed
-// over is reported (critical warnings) and the read goes on.
+// constraints schema, walks "NodeConstraints", "PortConstraints",
+// "NetConstraints" and "GlobalConstraints" in that order, resolves each
+// object's name, and sets one constraint for each key, with the place of the
+// key in the file or the source location that the file gives for it. A file
+// that says it is tool generated goes to the handler's child. A read adds to
+// the handler, and what it added stays when a later step fails. Content that
+// can be passed over is reported (critical warnings) and the read goes on.
 class IPCONFIG_READWRITE_EXPORT ConstrReader {
 public:
   // Names resolve to themselves.
@@ -43,6 +45,10 @@ public:
   // Reads `in`; `path` names it in reports and locations, and is the file
   // that the locations of the keys are looked up in.
   void read(std::istream& in, const std::string& path, bool validate);
+  // The same for "GlobalConstraints" alone, into this handler whatever the
+  // root says of the file.
+  void readAreaGroupConstrs(const std::string& path, bool validate);
+  void readAreaGroupConstrs(std::istream& in, const std::string& path, bool validate);
   // The setSchema path, else the one that SchemaFile finds. Throws HEXAll
   // "@75-391@" when there is none.
   std::string getSchemaFile() const;
@@ -64,8 +70,14 @@ public:
 private:
   using ParseKey = void (ConstrReader::*)(const JValue& value, const std::string& key,
                                           const std::string& objName);
+  using ReadSections = void (ConstrReader::*)();
+  using ParseGroupValue = void (ConstrReader::*)(const JValue& value, const std::string& group,
+                                                 std::vector<PhysicalRange>& ranges);
   struct Locations;
 
+  void readFile_(const std::string& path, bool validate, ReadSections readSections);
+  void readStream_(std::istream& in, const std::string& path, bool validate,
+                   ReadSections readSections);
   void readSchema_();
   void readJson_(std::istream& in, bool validate);
   void readConstraints_();
@@ -73,6 +85,7 @@ private:
   void readNodeConstraints_();
   void readPortConstraints_();
   void readNetConstraints_();
+  void readGlobalConstraints_();
   void readObjectKeys_(const JValue& object, const std::string& objName, ParseKey parseKey);
   void readFifoLocationsRecords_(const JValue& records);
   void parseNodeBaseConstraint_(const JValue& value, const std::string& key,
@@ -90,10 +103,28 @@ private:
                        std::size_t count);
   // An address with a field of 0 or more; otherwise false, and `address` stays.
   static bool parseAddress_(const JValue& value, Address& address);
+  void parseGlobalBaseConstraint_(const std::string& key, const JValue& value);
+  void parseAreaGroupBaseConstraint_(const JValue& value);
+  // One element of a group's ranges, appended when it has a first location,
+  // reported otherwise.
+  void parseTileGroupValue_(const JValue& value, const std::string& group,
+                            std::vector<PhysicalRange>& ranges);
+  void parseMemGroupValue_(const JValue& value, const std::string& group,
+                           std::vector<PhysicalRange>& ranges);
+  void parseShimGroupValue_(const JValue& value, const std::string& group,
+                            std::vector<PhysicalRange>& ranges);
+  template <typename Location>
+  void parseGroupValue_(const JValue& value, const std::string& group,
+                        std::vector<PhysicalRange>& ranges, const char* badWithText,
+                        const char* badWithoutText);
   void parseDmaFifoRecord_(const JValue& value, const std::string& name);
   void parseStreamFifoRecord_(const JValue& value, const std::string& name);
   void setUserJsonSrcInfo_(const std::string& key, const std::string& objName);
   void parseSrcInfo_(const JValue& value, const std::string& key, const std::string& objName);
+  void parseAreaGroupSrcInfo_(const JValue& value, const std::string& key,
+                              const std::string& name);
+  SrcInfo* getGroupSrcInfo_(const std::string& key, const std::string& name) const;
+  void setUserJsonAreaGroupSrcInfo_(const std::string& name, SrcInfo& srcInfo);
   void findLocInJSON_(const std::string& objName, const std::string& key, std::uint32_t& line,
                       std::uint32_t& column);
   Locations& locations_();
