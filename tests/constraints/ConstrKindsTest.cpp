@@ -2,15 +2,21 @@
 
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
+#include "ConstrReader.h"
+#include "ConstrWriter.h"
 #include "SpecBuilders.h"
 
 #include <functional>
+#include <sstream>
 
 namespace {
 
 using namespace qpe::constraints;
 using namespace spec_builders;
 using constr_file_support::written;
+using testing_support::MessageLogTest;
+using testing_support::readFile;
+using testing_support::TempDir;
 using Base = BaseConstraint;
 
 // Node and port names under "top/"; group names are not resolved.
@@ -115,5 +121,59 @@ INSTANTIATE_TEST_SUITE_P(
                  R"j({"areaGroup":{"name":"g","exclude":true,"exclusive_placement":true,)j"
                  R"j("nodeGroup":["top/a","top/b"],"tileGroup":["(1,0):(2,0)"],)j"
                  R"j("memGroup":["m"],"shimGroup":["(3,1)"]}})j"}));
+
+class ConstrKindFileTest : public MessageLogTest {
+protected:
+  // What `handler` writes, read back from the file.
+  std::string write(const ConstrHandler& handler, const std::string& name)
+  {
+    handler.write(dir.file(name));
+    return readFile(dir.file(name));
+  }
+
+  const TempDir dir;
+  const std::string examples = IPCONFIG_RW_EXAMPLES_DIR;
+  const std::string golden = IPCONFIG_RW_TESTS_DATA_DIR;
+};
+
+TEST_F(ConstrKindFileTest, PlacementKeysComeBackInTheirOrderWithSingleLineArrays)
+{
+  ConstrHandler handler;
+  handler.read(examples + "/placement.json");
+  EXPECT_EQ(write(handler, "placement.json"), readFile(examples + "/placement.json"));
+
+  ConstrHandler unordered;
+  unordered.read(golden + "/placement_unordered.json");
+  EXPECT_EQ(write(unordered, "ordered.json"), readFile(golden + "/placement_in_key_order.json"));
+}
+
+TEST_F(ConstrKindFileTest, AreaGroupsMergeAndGroupTheirRangesOnceThenStay)
+{
+  ConstrHandler handler;
+  handler.read(examples + "/area_groups.json");
+  const std::string once = write(handler, "once.json");
+  EXPECT_EQ(once, readFile(golden + "/area_groups_written.json"));
+  ConstrHandler again;
+  again.read(dir.file("once.json"));
+  EXPECT_EQ(write(again, "twice.json"), once);
+}
+
+TEST_F(ConstrKindFileTest, TheGroupsAreWrittenAloneAndReadAlone)
+{
+  ConstrHandler handler;
+  handler.read(examples + "/placement.json");
+  handler.read(examples + "/area_groups.json");
+  std::ostringstream out;
+  handler.writeAreaGroupConstrs(out, dir.file("groups.json"), BaseNameResolver());
+  EXPECT_EQ(out.str(), readFile(golden + "/area_groups_written.json"));
+
+  write(handler, "all.json");
+  ConstrHandler groups;
+  ConstrReader(groups).readAreaGroupConstrs(dir.file("all.json"), true);
+  ConstrHandler::Constrs read;
+  groups.getConstrs(Base::GLOBAL, read);
+  EXPECT_EQ(read.size(), groups.size());
+  EXPECT_EQ(groups.size(), 3u);
+}
 
 }  // namespace
