@@ -40,3 +40,5 @@ check traffic traffic.json.gz
 run constraints constraints.json
 run constraints placement.json
 settle constraints area_groups.json
+"$tool" constraints areagroups "$examples/area_groups.json" "$out/groups.json"
+cmp "$out/area_groups.json" "$out/groups.json"

@@ -9,6 +9,8 @@ using tool_runner::RunResult;
 using tool_runner::runTool;
 
 const std::string example = IPCONFIG_RW_EXAMPLES_DIR "/constraints.json";
+const std::string placement = IPCONFIG_RW_EXAMPLES_DIR "/placement.json";
+const std::string areaGroups = IPCONFIG_RW_EXAMPLES_DIR "/area_groups.json";
 
 TEST(ConstraintsToolTest, CheckCountsTheConstraintsAndRecordsOfTheExample)
 {
@@ -75,6 +77,36 @@ TEST(ConstraintsToolTest, CheckEchoesWarningsAndFailsWithTheMessageAndPointer)
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_EQ(result.output, "ERROR: [ipconfig @75-571@] " + dir.file("bad.json") +
                                " /definitions/addresses type /NodeConstraints/n/mem\n");
+}
+
+TEST(ConstraintsToolTest, PlacementAndGroupsAreDumped)
+{
+  const TempDir dir;
+  writeFile(dir.file("c.json"), R"({"NodeConstraints": {"n": {"tile": {"column": 1, "row": 2},
+    "mem": [{"bankId": 0, "offset": 64}]}}, "PortConstraints": {"p": {"buffers": [{}]}},
+    "GlobalConstraints": {"areaGroup": {"name": "g", "nodeGroup": ["n"], "shimGroup": [3]}}})");
+  const RunResult result = runTool("constraints dump " + dir.file("c.json"));
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_EQ(result.output, " abs(n,tile)=(1,2)\n mem(n,shared_buffer)=ping=(-1,-1,0,64)\n"
+                           " buf(p,data_buffer)=\n areaGroup(g)=(n,)(\n  low=shim=(3,-1))\n"
+                           " exclude=(false) isSoft=(false) contain_routing=(false) "
+                           "exclusive_routing=(false) exclusive_placement=(false)\n");
+}
+
+TEST(ConstraintsToolTest, AreaGroupsAreReadAndWrittenAlone)
+{
+  const TempDir dir;
+  RunResult result = runTool("constraints areagroups " + areaGroups + " " + dir.file("g.json"));
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_EQ(result.output, "constraints " + areaGroups + " -> " + dir.file("g.json") +
+                               ": 3 groups\n");
+  EXPECT_EQ(readFile(dir.file("g.json")),
+            readFile(IPCONFIG_RW_TESTS_DATA_DIR "/area_groups_written.json"));
+
+  result = runTool("constraints areagroups " + placement + " " + dir.file("g.json"));
+  EXPECT_EQ(result.exitCode, 0) << result.output;
+  EXPECT_FALSE(boost::filesystem::exists(dir.file("g.json"))) << "no group, no file";
+  EXPECT_EQ(runTool("constraints areagroups " + placement).exitCode, 2);
 }
 
 }  // namespace

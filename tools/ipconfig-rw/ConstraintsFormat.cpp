@@ -1,6 +1,8 @@
 #include "Format.h"
 
 #include "ConstrHandler.h"
+#include "ConstrReader.h"
+#include "ConstrWriter.h"
 
 #include <memory>
 #include <ostream>
@@ -11,6 +13,8 @@ namespace {
 
 using qpe::constraints::BaseConstraint;
 using qpe::constraints::ConstrHandler;
+using qpe::constraints::ConstrReader;
+using qpe::constraints::ConstrWriter;
 
 // A tool-generated file goes to the child that its root keys name.
 class ChildHandler : public ConstrHandler {
@@ -82,6 +86,16 @@ int roundtrip(const std::vector<std::string>& args, std::ostream& out)
   return exitOk;
 }
 
+// The groups of IN alone, written alone: the other sections are not read.
+int areagroups(const std::vector<std::string>& args, std::ostream& out)
+{
+  ConstrHandler handler;
+  ConstrReader(handler).readAreaGroupConstrs(args[0], true);
+  ConstrWriter(handler).writeAreaGroupConstrs(args[1], true);
+  out << "constraints " << args[0] << " -> " << args[1] << ": " << handler.size() << " groups\n";
+  return exitOk;
+}
+
 int dump(const std::vector<std::string>& args, std::ostream&)
 {
   ParentHandler parent;
@@ -95,12 +109,14 @@ int dump(const std::vector<std::string>& args, std::ostream&)
 Format constraintsFormat()
 {
   return {"constraints",
-          "compute array constraints file (attributes and FIFO records: read, write; schema "
-          "qpetools_constr_schema.json)",
+          "compute array constraints file (attributes, FIFO records, placement and area "
+          "groups: read, write; schema qpetools_constr_schema.json)",
           {
               {"check", {"FILE"}, "read FILE and count its constraints and FIFO records", check},
               {"roundtrip", {"IN", "OUT"}, "read IN and write it back to OUT", roundtrip},
               {"dump", {"FILE"}, "read FILE and print each constraint on a line", dump},
+              {"areagroups", {"IN", "OUT"}, "read the groups of IN and write them alone to OUT",
+               areagroups},
           }};
 }
 
