@@ -16,7 +16,6 @@
 #include "ShimConstr.h"
 #include "TileConstr.h"
 
-#include <boost/range/adaptor/filtered.hpp>
 
 #include <algorithm>
 #include <iostream>
@@ -137,13 +136,19 @@ void ConstrHandler::setAttr_(ObjectType objType, const std::string& objName,
     attr->setVal(value);
 }
 
+template <typename Visit>
+void ConstrHandler::forEachOfType_(ObjectType objType, const Visit& visit) const
+{
+  for (std::size_t i = 0; i < constrs.size(); ++i)
+    if (objTypes[i] == objType)
+      visit(constrs[i]);
+}
+
 void ConstrHandler::getAllConstrained_(ObjectType objType, std::vector<std::string>& out) const
 {
-  const auto ofType = [objType](const BaseConstraint* constr) {
-    return constr->getObjType() == objType;
-  };
-  const auto filtered = boost::adaptors::filter(constrs, ofType);
-  getUniqueObjNames(filtered.begin(), filtered.end(), out);
+  Constrs ofType;
+  forEachOfType_(objType, [&ofType](BaseConstraint* constr) { ofType.push_back(constr); });
+  getUniqueObjNames(ofType.begin(), ofType.end(), out);
 }
 
 void ConstrHandler::copy_(const ConstrHandler& from, const BaseNameResolver* resolver)
@@ -210,6 +215,7 @@ void ConstrHandler::clear()
 {
   Constrs doomed;
   doomed.swap(constrs);
+  objTypes.clear();
   objects.clear();
   groups.clear();
   for (BaseConstraint* constr : doomed)
@@ -235,6 +241,7 @@ void ConstrHandler::unload(const BaseConstraint* constr)
   if (owned == constrs.end())
     return;
   BaseConstraint* doomed = *owned;
+  objTypes.erase(objTypes.begin() + (owned - constrs.begin()));
   constrs.erase(owned);
   unfile_(objects, doomed->getObjName(), doomed);
   if (isGroup(doomed->getConstrType()))
@@ -262,9 +269,7 @@ void ConstrHandler::getConstrs(const std::string& objName, Constrs& out) const
 void ConstrHandler::getConstrs(ObjectType objType, Constrs& out) const
 {
   out.clear();
-  for (BaseConstraint* constr : constrs)
-    if (constr->getObjType() == objType)
-      out.push_back(constr);
+  forEachOfType_(objType, [&out](BaseConstraint* constr) { out.push_back(constr); });
 }
 
 void ConstrHandler::getConstrs(const std::string& objName, const std::string& constrName,
@@ -618,6 +623,7 @@ void ConstrHandler::addConstraint(BaseConstraint* constr)
   if (!constr)
     return;
   constrs.push_back(constr);
+  objTypes.push_back(constr->getObjType());
   const std::string name = constr->getObjName();
   objects[name].push_back(constr);
   if (isGroup(constr->getConstrType()))

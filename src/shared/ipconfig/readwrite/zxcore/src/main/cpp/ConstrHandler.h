@@ -229,8 +229,15 @@ private:
   void copy_(const ConstrHandler& from, const BaseNameResolver* resolver);
   static void unfile_(Index& index, const std::string& name, const BaseConstraint* constr);
 
+  // The constraints of objects of a type, in creation order.
+  template <typename Visit>
+  void forEachOfType_(ObjectType objType, const Visit& visit) const;
+
   FifoLocationsRecords records;
   Constrs constrs;
+  // The object type of each constraint, beside it: a type never changes, and
+  // the walks by type then touch only the constraints they keep.
+  std::vector<ObjectType> objTypes;
   Index objects;
   // The groups by their own name, which renamePorts leaves alone.
   Index groups;
