@@ -1,166 +1,164 @@
-#include "ToolRunner.h"
+#include "TestSupport.h"
+
+#include <boost/algorithm/string/replace.hpp>
+
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
 
 namespace {
 
-using testing_support::readFile;
 using testing_support::TempDir;
 using testing_support::writeFile;
-using tool_runner::RunResult;
-using tool_runner::runTool;
 
-const std::string example = IPCONFIG_RW_EXAMPLES_DIR "/metadata.json";
-
-TEST(IpconfigRwTest, CheckSummarisesTheExample)
-{
-  const RunResult result = runTool("metadata check " + example);
-  EXPECT_EQ(result.exitCode, 0) << result.output;
-  EXPECT_EQ(result.output,
-            "metadata " + example +
-                ": 5 properties: QPE_PL_INTF_ID (int), QPE_PL_INTF_ID_STR (string), "
-                "compiler.options (string list), device.speedGrade (double), "
-                "project.enableBlockModel (bool)\n");
-}
-
-TEST(IpconfigRwTest, RoundtripOfTheExampleIsByteIdentical)
-{
-  const TempDir dir;
-  const RunResult result = runTool("metadata roundtrip " + example + " " + dir.file("out.json"));
-  EXPECT_EQ(result.exitCode, 0) << result.output;
-  EXPECT_EQ(readFile(dir.file("out.json")), readFile(example));
-}
-
-struct FailureCase {
-  const char* name;
-  const char* contents;  // null: no input file
-  std::string expectedLine;
+struct RunResult {
+  int exitCode;
+  std::string output;  // stderr, then stdout: the tool's stdout is flushed at its end
 };
 
-void PrintTo(const FailureCase& c, std::ostream* out)
+RunResult runTool(const std::string& args)
+{
+  const std::string command = std::string(IPCONFIG_RW_TOOL) + " " + args + " 2>&1";
+  RunResult result{-1, {}};
+  FILE* pipe = popen(command.c_str(), "r");
+  if (!pipe)
+    return result;
+  std::array<char, 4096> buffer;
+  while (std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
+    result.output.append(buffer.data(), got);
+  const int status = pclose(pipe);
+  result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return result;
+}
+
+// One run of the tool in a fresh directory $D that holds `input` as in.json
+// when given; $E stands for the examples. The whole output is expected, or
+// with `partial` a piece of it.
+struct RunCase {
+  const char* name;
+  const char* input;
+  std::string args;
+  int exitCode;
+  std::string output;
+  bool partial = false;
+};
+
+void PrintTo(const RunCase& c, std::ostream* out)
 {
   *out << c.name;
 }
 
-class IpconfigRwBadInputTest : public ::testing::TestWithParam<FailureCase> {};
-
-TEST_P(IpconfigRwBadInputTest, ExitsOneWithTheMessageId)
+std::string expand(std::string text, const TempDir& dir)
 {
-  const TempDir dir;
-  if (GetParam().contents)
-    writeFile(dir.file("in.json"), GetParam().contents);
-  const RunResult result = runTool("metadata check " + dir.file("in.json"));
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_NE(result.output.find(GetParam().expectedLine), std::string::npos) << result.output;
+  boost::replace_all(text, "$E", IPCONFIG_RW_EXAMPLES_DIR);
+  boost::replace_all(text, "$D", dir.path().string());
+  return text;
 }
 
+class IpconfigRwTest : public ::testing::TestWithParam<RunCase> {};
+
+TEST_P(IpconfigRwTest, ExitCodeAndOutput)
+{
+  const RunCase& c = GetParam();
+  const TempDir dir;
+  if (c.input)
+    writeFile(dir.file("in.json"), c.input);
+  const RunResult result = runTool(expand(c.args, dir));
+  EXPECT_EQ(result.exitCode, c.exitCode) << result.output;
+  const std::string expected = expand(c.output, dir);
+  if (c.partial)
+    EXPECT_NE(result.output.find(expected), std::string::npos) << result.output;
+  else
+    EXPECT_EQ(result.output, expected);
+}
+
+const std::string constraintsCounts =
+    ": 13 constraints (8 node, 3 port, 2 net, 0 global), 2 FIFO records (1 DMA, 1 stream)\n";
+const std::string trafficCounts =
+    ": 7 instances (3 master, 3 slave, 1 other), 4 paths, 1 phase groups, 1 DFX paths\n";
+const std::string logicalArchCounts =
+    ": 4 instances (1 QPE, 2 NoC, 1 PL), 9 ports, 5 connections\n";
+
 INSTANTIATE_TEST_SUITE_P(
-    Inputs, IpconfigRwBadInputTest,
-    ::testing::Values(FailureCase{"missing", nullptr, "ERROR: [ipconfig @90-1@] "},
-                      FailureCase{"malformed", "{", "ERROR: [ipconfig @90-2@] "},
-                      FailureCase{"empty", "",
-                                  "The document is empty. (offset 0)"}),
+    Runs, IpconfigRwTest,
+    ::testing::Values(
+        RunCase{"metadataCheck", nullptr, "metadata check $E/metadata.json", 0,
+                "metadata $E/metadata.json: 5 properties: QPE_PL_INTF_ID (int), "
+                "QPE_PL_INTF_ID_STR (string), compiler.options (string list), "
+                "device.speedGrade (double), project.enableBlockModel (bool)\n"},
+        RunCase{"metadataRoundtrip", nullptr, "metadata roundtrip $E/metadata.json $D/out.json", 0,
+                "metadata $E/metadata.json -> $D/out.json: 5 properties\n"},
+        RunCase{"metadataMissing", nullptr, "metadata check $D/in.json", 1,
+                "ERROR: [ipconfig @90-1@] ", true},
+        RunCase{"metadataMalformed", "{", "metadata check $D/in.json", 1,
+                "ERROR: [ipconfig @90-2@] $D/in.json Missing a name for object member. "
+                "(offset 1)\n"},
+        RunCase{"metadataEmpty", "", "metadata check $D/in.json", 1,
+                "ERROR: [ipconfig @90-2@] $D/in.json The document is empty. (offset 0)\n"},
+        RunCase{"unwritable", nullptr, "metadata roundtrip $E/metadata.json $D/no/out.json", 1,
+                "metadata: cannot write $D/no/out.json\n"},
+        RunCase{"trafficCheck", nullptr, "traffic check $E/traffic.json", 0,
+                "traffic $E/traffic.json" + trafficCounts},
+        RunCase{"trafficCheckCompressed", nullptr, "traffic check $E/traffic.json.gz", 0,
+                "traffic $E/traffic.json.gz" + trafficCounts},
+        RunCase{"trafficWarning",
+                R"({"LogicalInstances": [{"Name": "mc", "CompType": "DDRC", "Ports": ["PORT9"]}]})",
+                "traffic check $D/in.json", 0, "CRITICAL WARNING: [ipconfig @73-30@] PORT9 mc\n",
+                true},
+        RunCase{"trafficBad", R"({"LogicalInstances": [{"Name": "x", "CompType": "NPS_9"}]})",
+                "traffic check $D/in.json", 1,
+                "ERROR: [ipconfig @90-2@] $D/in.json Unknown component type : NPS_9\n"},
+        RunCase{"logicalArchCheck", nullptr, "logicalarch check $E/logical_arch.json", 0,
+                "logicalarch $E/logical_arch.json" + logicalArchCounts},
+        RunCase{"logicalArchRoundtrip", nullptr,
+                "logicalarch roundtrip $E/logical_arch.json $D/out.json", 0,
+                "logicalarch $E/logical_arch.json -> $D/out.json" + logicalArchCounts},
+        RunCase{"logicalArchBad", R"({"PL": {"k": {"plPorts": {"p": {"busWidth": -8}}}}})",
+                "logicalarch check $D/in.json", 1,
+                "ERROR: [ipconfig @90-2@] $D/in.json /PL/k/plPorts/p/busWidth\n"},
+        RunCase{"logicalArchEmpty", R"({"appId": "a"})",
+                "logicalarch roundtrip $D/in.json $D/out.json", 1,
+                "logicalarch: $D/in.json has no instance and no connection; nothing written\n"},
+        RunCase{"constraintsCheck", nullptr, "constraints check $E/constraints.json", 0,
+                "constraints $E/constraints.json" + constraintsCounts},
+        RunCase{"constraintsRoundtrip", nullptr,
+                "constraints roundtrip $E/constraints.json $D/out.json", 0,
+                "constraints $E/constraints.json -> $D/out.json: 13 constraints\n", true},
+        RunCase{"constraintsToolGenerated",
+                R"({"isToolGenerated": true, "isSoft": true, "NetConstraints": {"e": {"w": 1}}})",
+                "constraints check $D/in.json", 0,
+                "constraints $D/in.json (tool generated, soft): 1 constraints (0 node, 0 port, "
+                "1 net, 0 global), 0 FIFO records (0 DMA, 0 stream)\n",
+                true},
+        RunCase{"constraintsWarning", R"({"NodeConstraints": {"": {"a": 1}}})",
+                "constraints check $D/in.json", 0, "CRITICAL WARNING: [ipconfig @75-407@] \n",
+                true},
+        RunCase{"constraintsBad", R"({"NodeConstraints": {"n": {"mem": 3}}})",
+                "constraints check $D/in.json", 1,
+                "ERROR: [ipconfig @75-571@] $D/in.json /definitions/addresses type "
+                "/NodeConstraints/n/mem\n"},
+        RunCase{"constraintsDump",
+                R"({"NodeConstraints": {"n": {"margin": 2, "label": "x", "tile": {"column": 1,
+                    "row": 2}, "mem": [{"bankId": 0, "offset": 64}]}},
+                    "PortConstraints": {"p": {"buffers": [{}]}}, "NetConstraints": {"e": {"on": true}},
+                    "GlobalConstraints": {"areaGroup": {"name": "g", "nodeGroup": ["n"],
+                                                        "shimGroup": [3]}}})",
+                "constraints dump $D/in.json", 0,
+                " attr(n)=(2)\n attr(n)=(x)\n abs(n,tile)=(1,2)\n"
+                " mem(n,shared_buffer)=ping=(-1,-1,0,64)\n buf(p,data_buffer)=\n attr(e)=(true)\n"
+                " areaGroup(g)=(n,)(\n  low=shim=(3,-1))\n exclude=(false) isSoft=(false) "
+                "contain_routing=(false) exclusive_routing=(false) exclusive_placement=(false)\n"},
+        RunCase{"areaGroups", nullptr, "constraints areagroups $E/area_groups.json $D/out.json", 0,
+                "constraints $E/area_groups.json -> $D/out.json: 3 groups\n"},
+        RunCase{"help", nullptr, "--help", 0, "  metadata: project metadata", true},
+        RunCase{"noArguments", nullptr, "", 2, "expected a format and a command", true},
+        RunCase{"unknownFormat", nullptr, "nosuchformat check x", 2,
+                "unknown format 'nosuchformat'", true},
+        RunCase{"unknownCommand", nullptr, "metadata explode x", 2, "unknown command 'explode'",
+                true},
+        RunCase{"argumentCount", nullptr, "constraints areagroups $E/placement.json", 2,
+                "takes 2 argument(s)", true}),
     [](const auto& info) { return info.param.name; });
-
-TEST(IpconfigRwTest, TrafficCheckSummarisesPlainAndCompressedExamples)
-{
-  for (const std::string name : {"traffic.json", "traffic.json.gz"}) {
-    const std::string path = IPCONFIG_RW_EXAMPLES_DIR "/" + name;
-    const RunResult result = runTool("traffic check " + path);
-    EXPECT_EQ(result.exitCode, 0) << result.output;
-    EXPECT_EQ(result.output, "traffic " + path +
-                                 ": 7 instances (3 master, 3 slave, 1 other), 4 paths, "
-                                 "1 phase groups, 1 DFX paths\n");
-  }
-}
-
-TEST(IpconfigRwTest, TrafficCheckEchoesWarningsAndFailsWithTheMessage)
-{
-  const TempDir dir;
-  writeFile(dir.file("warn.json"), R"({"LogicalInstances": [
-      {"Name": "mc", "CompType": "DDRC", "Ports": ["PORT9"]}]})");
-  RunResult result = runTool("traffic check " + dir.file("warn.json"));
-  EXPECT_EQ(result.exitCode, 0) << result.output;
-  EXPECT_NE(result.output.find("CRITICAL WARNING: [ipconfig @73-30@] PORT9 mc"), std::string::npos)
-      << result.output;
-
-  writeFile(dir.file("bad.json"), R"({"LogicalInstances": [{"Name": "x", "CompType": "NPS_9"}]})");
-  result = runTool("traffic check " + dir.file("bad.json"));
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_NE(result.output.find("ERROR: [ipconfig @90-2@] " + dir.file("bad.json") +
-                               " Unknown component type : NPS_9"),
-            std::string::npos)
-      << result.output;
-}
-
-TEST(IpconfigRwTest, LogicalArchCheckAndRoundtripOfTheExample)
-{
-  const std::string path = IPCONFIG_RW_EXAMPLES_DIR "/logical_arch.json";
-  const std::string summary = ": 4 instances (1 QPE, 2 NoC, 1 PL), 9 ports, 5 connections\n";
-  RunResult result = runTool("logicalarch check " + path);
-  EXPECT_EQ(result.exitCode, 0) << result.output;
-  EXPECT_EQ(result.output, "logicalarch " + path + summary);
-
-  const TempDir dir;
-  const std::string out = dir.file("out.json");
-  result = runTool("logicalarch roundtrip " + path + " " + out);
-  EXPECT_EQ(result.exitCode, 0) << result.output;
-  EXPECT_EQ(result.output, "logicalarch " + path + " -> " + out + summary);
-  EXPECT_EQ(readFile(out), readFile(path));
-}
-
-TEST(IpconfigRwTest, LogicalArchFailsOnBadOrEmptyInput)
-{
-  const TempDir dir;
-  writeFile(dir.file("bad.json"), R"({"PL": {"k": {"plPorts": {"p": {"busWidth": -8}}}}})");
-  RunResult result = runTool("logicalarch check " + dir.file("bad.json"));
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_NE(result.output.find("ERROR: [ipconfig @90-2@] " + dir.file("bad.json") +
-                               " /PL/k/plPorts/p/busWidth"),
-            std::string::npos)
-      << result.output;
-
-  writeFile(dir.file("empty.json"), R"({"appId": "a"})");
-  result = runTool("logicalarch roundtrip " + dir.file("empty.json") + " " + dir.file("out.json"));
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_NE(result.output.find("has no instance and no connection; nothing written"),
-            std::string::npos)
-      << result.output;
-}
-
-TEST(IpconfigRwTest, RoundtripToAnUnwritablePathFails)
-{
-  const TempDir dir;
-  const RunResult result =
-      runTool("metadata roundtrip " + example + " " + dir.file("no/dir/out.json"));
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_NE(result.output.find("cannot write"), std::string::npos) << result.output;
-}
-
-struct UsageCase {
-  const char* args;
-  int exitCode;
-  const char* expected;
-};
-
-void PrintTo(const UsageCase& c, std::ostream* out)
-{
-  *out << "'" << c.args << "'";
-}
-
-class IpconfigRwUsageTest : public ::testing::TestWithParam<UsageCase> {};
-
-TEST_P(IpconfigRwUsageTest, ReportsUsageProblems)
-{
-  const RunResult result = runTool(GetParam().args);
-  EXPECT_EQ(result.exitCode, GetParam().exitCode) << result.output;
-  EXPECT_NE(result.output.find(GetParam().expected), std::string::npos) << result.output;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Arguments, IpconfigRwUsageTest,
-    ::testing::Values(UsageCase{"--help", 0, "  metadata: project metadata"},
-                      UsageCase{"", 2, "expected a format and a command"},
-                      UsageCase{"nosuchformat check x", 2, "unknown format 'nosuchformat'"},
-                      UsageCase{"metadata explode x", 2, "unknown command 'explode'"},
-                      UsageCase{"metadata roundtrip a", 2, "takes 2 argument(s)"}));
 
 }  // namespace
