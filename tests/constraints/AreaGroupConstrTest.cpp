@@ -1,4 +1,4 @@
-#include "ConstrFileSupport.h"
+#include "ConstrSupport.h"
 
 #include "AreaGroupConstr.h"
 #include "BaseNameResolver.h"
@@ -12,7 +12,7 @@ namespace {
 
 using namespace qpe::constraints;
 using namespace spec_builders;
-using constr_file_support::written;
+using constr_support::written;
 using testing_support::ExpectedMsg;
 using testing_support::MessageLogTest;
 using Names = std::vector<std::string>;

@@ -1,31 +1,13 @@
-#include "TestSupport.h"
+#include "ConstrSupport.h"
 
 #include "AttrConstr.h"
-#include "BaseNameResolver.h"
-#include "BaseVisitor.h"
-#include "ConstBaseVisitor.h"
-#include "ConstrCast.h"
-#include "ConstrHandler.h"
-#include "HEXAlgException.h"
-
-#include <functional>
+#include "ShimConstr.h"
+#include "TileConstr.h"
 
 namespace {
 
-using namespace qpe::constraints;
-using Base = BaseConstraint;
+using namespace constr_support;
 using Constrs = ConstrHandler::Constrs;
-using Names = std::vector<std::string>;
-
-void expectRefused(const std::function<void()>& action, const std::string& text)
-{
-  try {
-    action();
-    ADD_FAILURE() << "expected: " << text;
-  } catch (const HEXAlgException& refusal) {
-    EXPECT_EQ(refusal.what(), text);
-  }
-}
 
 TEST(ConstrHandlerTest, SetReplacesTheValueOfOneAttributePerCanonicalName)
 {
@@ -45,7 +27,6 @@ TEST(ConstrHandlerTest, SetReplacesTheValueOfOneAttributePerCanonicalName)
   EXPECT_EQ(handler.getAttrConstr("n", "Foo")->getIntVal(), 2);
   handler.createAttrConstr(Base::NODE, "n", HATAttrTypes::AttrBool, "foo");
   EXPECT_EQ(handler.getConstrs().back()->getConstrName(), "qpe.foo");
-  ASSERT_EQ(handler.size(), 4u);
 
   // Empty names create nothing and report nothing.
   handler.setAttrConstr(Base::NODE, "", "a", 1);
@@ -57,8 +38,6 @@ TEST(ConstrHandlerTest, SetReplacesTheValueOfOneAttributePerCanonicalName)
   AttrConstr* made = handler.createAttrConstr(Base::NET, "e", HATAttrTypes::AttrDouble, "runtime");
   EXPECT_EQ(made->getConstrName(), "QPE.RUNTIME");
   EXPECT_FALSE(made->isSet());
-  EXPECT_EQ(handler.getConstrs().back(), made);
-
   expectRefused([&] { handler.getAttrConstr("n", ""); },
                 "ConstrHandler::get() - attrName must be specified when T == AttrConstr");
 }
@@ -75,11 +54,9 @@ TEST(ConstrHandlerTest, QueriesByObjectAndName)
   const Constrs sentinel{all[0]};
   Constrs out = sentinel;
   handler.getConstrs("unknown", out);
-  EXPECT_EQ(out, sentinel);
   handler.getConstrs("unknown", "qpe.margin", out);
-  EXPECT_EQ(out, sentinel);
   handler.getConstrs("unknown", Base::Attr, out);
-  EXPECT_EQ(out, sentinel);
+  EXPECT_EQ(out, sentinel) << "unknown objects leave the result alone";
 
   handler.getConstrs("n", out);
   EXPECT_EQ(out, (Constrs{all[0], all[1], all[2]}));
@@ -87,24 +64,17 @@ TEST(ConstrHandlerTest, QueriesByObjectAndName)
   EXPECT_EQ(out, (Constrs{all[2]}));
   handler.getConstrs("n", "margin", out);
   EXPECT_TRUE(out.empty()) << "no canonical retry here";
-  handler.getConstrs("n", Base::Attr, out);
-  EXPECT_EQ(out.size(), 3u);
   handler.getConstrs("n", Base::Tile, out);
   EXPECT_TRUE(out.empty());
   handler.getConstrs(Base::PORT, out);
   EXPECT_EQ(out, (Constrs{all[3]}));
-  handler.getConstrs(out);
-  EXPECT_EQ(out, all);
 
   EXPECT_EQ(handler.getConstr("n", "qpe.TILE"), all[1]);
   EXPECT_EQ(handler.getConstr("n", "fifo_depth"), all[0]) << "by canonical name";
-  EXPECT_EQ(handler.getConstr("n", "tile"), all[1]);
   EXPECT_EQ(handler.getConstr("n", "nothing"), nullptr);
-  EXPECT_EQ(handler.getConstr("x", "margin"), nullptr);
   EXPECT_EQ(handler.getConstr("p", Base::Attr), all[3]);
   EXPECT_EQ(handler.getConstr("p", Base::Tile), nullptr);
   EXPECT_EQ(handler.getTileConstr("n"), nullptr) << "an attribute of that name is no tile";
-  EXPECT_EQ(handler.getAreaGroupConstr("n"), nullptr);
 }
 
 TEST(ConstrHandlerTest, ConstrainedObjectsInOrderOfFirstAppearance)
@@ -143,7 +113,6 @@ TEST(ConstrHandlerTest, UnloadLeavesAnEmptyEntry)
   EXPECT_EQ(out, sentinel) << "an empty entry answers like an unknown object";
   handler.getConstrs("n", "qpe.a", out);
   EXPECT_TRUE(out.empty()) << "but the object is known";
-  EXPECT_EQ(handler.getAttrConstr("n", "a"), nullptr);
 }
 
 TEST(ConstrHandlerTest, RenamePortsMovesIndexEntries)
@@ -163,7 +132,6 @@ TEST(ConstrHandlerTest, RenamePortsMovesIndexEntries)
   handler.getConstrs("b", out);
   EXPECT_EQ(out, (Constrs{all[0], all[1]})) << "the index follows the new names";
   EXPECT_EQ(handler.getAttrConstr("d", "k"), all[2]);
-  EXPECT_EQ(handler.getConstrs(), all);
 
   // The node is filed under "b" now, and unloads cleanly from there.
   handler.unload(all[1]);
@@ -177,98 +145,39 @@ TEST(ConstrHandlerTest, RenamePortsMovesIndexEntries)
 TEST(ConstrHandlerTest, CreationOfKindsItDoesNotMake)
 {
   ConstrHandler handler;
-  const std::string createConstr =
-      "ConstrHandler::createConstr() - this function does not support creating constraints of "
-      "type '";
   for (Base::ConstrType type : {Base::Attr, Base::AreaGroup, Base::IsomorphicGraphGroup})
     expectRefused([&] { handler.createConstr(type, Base::NODE, "n"); },
-                  createConstr + Base::getConstrTypeAsStr(type) + "'");
+                  "ConstrHandler::createConstr() - this function does not support creating "
+                  "constraints of type '" + Base::getConstrTypeAsStr(type) + "'");
   for (Base::ConstrType type : {Base::Buffer, Base::Attr, Base::FifoLocations})
     expectRefused([&] { handler.createGlobalConstr(type, "g"); },
                   "ConstrHandler::createGlobalConstr() - this function does not support "
-                  "creating constraints of type '" +
-                      Base::getConstrTypeAsStr(type) + "'");
+                  "creating constraints of type '" + Base::getConstrTypeAsStr(type) + "'");
   EXPECT_TRUE(handler.empty());
 }
-
-TEST(ConstrHandlerTest, ABaseHandlerIsAParentWithoutChildren)
-{
-  ConstrHandler handler;
-  handler.isParent(false);
-  handler.isToolGenerated(true);
-  handler.isSoft(true);
-  EXPECT_TRUE(handler.isParent());
-  EXPECT_FALSE(handler.isToolGenerated());
-  EXPECT_FALSE(handler.isSoft());
-  EXPECT_EQ(handler.getChildCstHandler(false), nullptr);
-  EXPECT_EQ(handler.getChildCstHandler(true), nullptr);
-}
-
-template <typename T>
-using Mutable = T*;
-template <typename T>
-using ReadOnly = const T*;
-
-// Records the object names of the attributes it visits, calling `onAttr` on each.
-template <typename Visitor, template <typename> class Ptr>
-class AttrNames : public Visitor {
-public:
-  Names names;
-  std::function<void()> onAttr = [] {};
-  void visit(Ptr<BaseConstraint> constr) override { Visitor::visit(constr); }
-  void visit(Ptr<AttrConstr> constr) override
-  {
-    names.push_back(constr->getObjName());
-    onAttr();
-  }
-  void visit(Ptr<BufferConstr>) override {}
-  void visit(Ptr<TileConstr>) override {}
-  void visit(Ptr<MemConstr>) override {}
-  void visit(Ptr<ReservedMemoryConstr>) override {}
-  void visit(Ptr<ShimConstr>) override {}
-  void visit(Ptr<PortLocConstr>) override {}
-  void visit(Ptr<StreamChannelConstr>) override {}
-  void visit(Ptr<ColocatedNodesConstr>) override {}
-  void visit(Ptr<RelativeNodesConstr>) override {}
-  void visit(Ptr<ColocatedPortsConstr>) override {}
-  void visit(Ptr<ColocatedDmaConstr>) override {}
-  void visit(Ptr<ColocatedMemoriesConstr>) override {}
-  void visit(Ptr<AreaGroupConstr>) override {}
-  void visit(Ptr<InstGroupConstr>) override {}
-  void visit(Ptr<DependentRoutingGroupConstr>) override {}
-  void visit(Ptr<FifoLocationsConstr>) override {}
-};
 
 TEST(ConstrHandlerTest, VisitorsAndDumpGoInCreationOrder)
 {
   ConstrHandler handler;
   handler.setAttrConstr(Base::NODE, "z", "k", 1);
-  handler.setAttrConstr(Base::PORT, "a", "k", std::string("text"));
-  handler.setAttrConstr(Base::NET, "m", "k", 0.5);
+  handler.setTileConstr("a", 1, 2, PhysicalSpec::Core);
+  handler.setShimConstr("m", 3, 0);
 
-  AttrNames<ConstBaseVisitor, ReadOnly> names;
-  handler.accept(names);
-  EXPECT_EQ(names.names, (Names{"z", "a", "m"}));
+  KindRecorder<ConstBaseVisitor, ReadOnly> reader;
+  handler.accept(reader);
+  EXPECT_EQ(reader.kinds, (Names{"AttrConstr", "TileConstr", "ShimConstr"}));
 
-  AttrNames<BaseVisitor, Mutable> adding;
-  adding.onAttr = [&] { handler.setAttrConstr(Base::NODE, "marker", "m", 0); };
+  KindRecorder<BaseVisitor, Mutable> adding;
+  adding.onVisit = [&] { handler.setAttrConstr(Base::NODE, "marker", "m", 0); };
   handler.accept(adding);
-  EXPECT_EQ(adding.names, (Names{"z", "a", "m", "marker"})) << "added, then visited";
+  EXPECT_EQ(adding.kinds, (Names{"AttrConstr", "TileConstr", "ShimConstr", "AttrConstr"}))
+      << "added, then visited";
 
   testing::internal::CaptureStdout();
   handler.dump();
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
-            " attr(z)=(1)\n attr(a)=(text)\n attr(m)=(0.5)\n attr(marker)=(0)\n");
+            " attr(z)=(1)\n abs(a,tile)=(1,2)\n abs(m,shim)=(3,0)\n attr(marker)=(0)\n");
 }
-
-// Prefixes node names and drops "gone".
-class Renamer : public BaseNameResolver {
-public:
-  std::string resolveNodeName(const std::string& name) const override
-  {
-    return name == "gone" ? "" : "top/" + name;
-  }
-};
 
 TEST(ConstrHandlerTest, CopyMergesThroughTheSetOperations)
 {
@@ -282,22 +191,19 @@ TEST(ConstrHandlerTest, CopyMergesThroughTheSetOperations)
   ConstrHandler into;
   into.setAttrConstr(Base::NODE, "top/n", "QPE.MARGIN", 1);
   into.setAttrConstr(Base::NODE, "top/n", "kept", 1);
-  into.copy(from, Renamer());
+  into.copy(from, Resolver("top/", {"gone"}));
   EXPECT_EQ(into.size(), 3u) << "merged into the existing margin; the dropped name makes none";
   const AttrConstr* margin = into.getAttrConstr("top/n", "margin");
   EXPECT_EQ(margin->getIntVal(), 3);
-  EXPECT_EQ(margin->getSrcInfo().getFile(), "f.cc");
-  EXPECT_EQ(margin->getSrcInfo().getLine(), 7u);
-  EXPECT_EQ(into.getAttrConstr("p", "label")->getStringVal(), "x");
+  EXPECT_EQ(where(margin->getSrcInfo()), "1 f.cc 7:8");
+  EXPECT_EQ(into.getAttrConstr("top/p", "label")->getStringVal(), "x");
   EXPECT_TRUE(into.getRecords().equals(from.getRecords()));
 
   ConstrHandler plain;
   plain.copy(from);
-  EXPECT_NE(plain.getAttrConstr("gone", "margin"), nullptr);
   plain.copy(plain);
   EXPECT_EQ(plain.size(), 3u) << "a copy onto itself sets what is there";
   EXPECT_NE(plain.getFifoLocationsRecord("r"), nullptr);
-  EXPECT_EQ(&plain.getFifoLocationsRecords(), &std::as_const(plain).getRecords());
 
   plain.clear();
   EXPECT_TRUE(plain.empty());
@@ -305,16 +211,6 @@ TEST(ConstrHandlerTest, CopyMergesThroughTheSetOperations)
   Constrs out{nullptr};
   plain.getConstrs("n", "qpe.margin", out);
   EXPECT_EQ(out, Constrs{nullptr}) << "the index is gone too";
-}
-
-TEST(ConstrHandlerTest, RecordForwarders)
-{
-  ConstrHandler handler;
-  PhysicalSpec::PhysicalType shim = PhysicalSpec::Shim;
-  const StreamFifoRecord* stream = handler.addStreamFifoRecord("s", shim, 1, 0, 2);
-  EXPECT_EQ(handler.getFifoLocationsRecord("s"), stream);
-  EXPECT_EQ(handler.addDmaFifoRecord("s", shim, 1, 0, 2, 3, 4), nullptr);
-  EXPECT_TRUE(handler.empty()) << "records are no constraints";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "ConstrFileSupport.h"
+#include "ConstrSupport.h"
 
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
@@ -13,7 +13,7 @@ namespace {
 
 using namespace qpe::constraints;
 using namespace spec_builders;
-using constr_file_support::written;
+using constr_support::written;
 using testing_support::MessageLogTest;
 using testing_support::readFile;
 using testing_support::TempDir;

@@ -1,4 +1,4 @@
-#include "ConstrFileSupport.h"
+#include "ConstrSupport.h"
 
 #include "AttrConstr.h"
 #include "BaseNameResolver.h"
@@ -13,9 +13,9 @@
 namespace {
 
 using namespace qpe::constraints;
-using constr_file_support::ChildHandler;
-using constr_file_support::DataTree;
-using constr_file_support::schemaName;
+using constr_support::ChildHandler;
+using constr_support::DataTree;
+using constr_support::schemaName;
 using testing_support::ExpectedMsg;
 using testing_support::MessageLogTest;
 using testing_support::TempDir;
@@ -348,7 +348,7 @@ INSTANTIATE_TEST_SUITE_P(
                     [](ConstrReader& reader, const TempDir& dir) {
                       const DataTree tree;
                       tree.hide(schemaName);
-                      tree.hide(constr_file_support::oldSchemaName);
+                      tree.hide(constr_support::oldSchemaName);
                       reader.read(fileIn(dir), true);
                     },
                     "@75-391@", [](const TempDir&) { return Args{}; }},

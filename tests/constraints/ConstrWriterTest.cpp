@@ -1,4 +1,4 @@
-#include "ConstrFileSupport.h"
+#include "ConstrSupport.h"
 
 #include "AttrConstr.h"
 #include "BaseNameResolver.h"
@@ -12,9 +12,9 @@
 namespace {
 
 using namespace qpe::constraints;
-using constr_file_support::ChildHandler;
-using constr_file_support::DataTree;
-using constr_file_support::schemaName;
+using constr_support::ChildHandler;
+using constr_support::DataTree;
+using constr_support::schemaName;
 using testing_support::MessageLogTest;
 using testing_support::readFile;
 using testing_support::TempDir;
@@ -227,7 +227,7 @@ TEST_F(ConstrWriterTest, AWriteNeedsItsSchemaEvenWithoutValidating)
   handler.setAttrConstr(Base::NODE, "n", "a", 1);
   const DataTree tree;
   tree.hide(schemaName);
-  tree.hide(constr_file_support::oldSchemaName);
+  tree.hide(constr_support::oldSchemaName);
   for (const bool validate : {true, false}) {
     std::ostringstream out;
     expectThrows([&] { ConstrWriter(handler).write(out, file, validate); }, "@75-395@", {});

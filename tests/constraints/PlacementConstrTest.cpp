@@ -1,4 +1,4 @@
-#include "ConstrFileSupport.h"
+#include "ConstrSupport.h"
 
 #include "ConstrHandler.h"
 #include "ConstrReader.h"
@@ -11,7 +11,7 @@
 namespace {
 
 using namespace qpe::constraints;
-using constr_file_support::written;
+using constr_support::written;
 using spec_builders::address;
 using testing_support::ExpectedMsg;
 using testing_support::MessageLogTest;

@@ -1,4 +1,4 @@
-#include "ConstrFileSupport.h"
+#include "ConstrSupport.h"
 
 #include "SchemaFile.h"
 
@@ -6,9 +6,9 @@
 
 namespace {
 
-using constr_file_support::DataTree;
-using constr_file_support::oldSchemaName;
-using constr_file_support::schemaName;
+using constr_support::DataTree;
+using constr_support::oldSchemaName;
+using constr_support::schemaName;
 using qpe::constraints::SchemaFile;
 using testing_support::ScopedEnv;
 
