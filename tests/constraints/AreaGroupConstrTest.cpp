@@ -1,8 +1,6 @@
 #include "ConstrSupport.h"
 
 #include "AreaGroupConstr.h"
-#include "BaseNameResolver.h"
-#include "ConstrHandler.h"
 #include "ConstrReader.h"
 #include "SpecBuilders.h"
 
@@ -10,14 +8,9 @@
 
 namespace {
 
-using namespace qpe::constraints;
+using namespace constr_support;
 using namespace spec_builders;
-using constr_support::written;
-using testing_support::ExpectedMsg;
-using testing_support::MessageLogTest;
-using Names = std::vector<std::string>;
 using Ranges = std::vector<PhysicalRange>;
-using Mask = ComMsgMgr::MsgMask;
 
 std::string rangesText(const Ranges& ranges)
 {
@@ -81,12 +74,7 @@ TEST(AreaGroupConstrTest, TextAndFileForm)
   group.addPhysicalValue(shim(5, 2));
   group.addPhysicalValue(column(7));
   group.getSrcInfo().set(SrcInfo::SourceFile, "g.cpp", 1, 2);
-  class Scoping : public BaseNameResolver {
-    std::string resolveScopedNodeName(const std::string& name) const override
-    {
-      return "top/" + name;
-    }
-  } scoping;
+  const Resolver scoping("top/");
   EXPECT_EQ(written(group, &scoping),
             R"j({"areaGroup":{"name":"g","issoft":true,"contain_routing":true,)j"
             R"j("exclusive_placement":true,"nodeGroup":["top/a","top/b"],)j"
@@ -168,23 +156,14 @@ TEST_F(AreaGroupReadTest, GroupsOfAFile)
               h->getFlags().exclusivePlacement);
   EXPECT_FALSE(h->isNodeGroupSet());
 
-  const SrcInfo& given = g->getSrcInfo();
-  EXPECT_EQ(given.getKind(), SrcInfo::SourceFile);
-  EXPECT_EQ(given.getFile() + ":" + std::to_string(given.getLine()) + ":" +
-                std::to_string(given.getColumn()),
-            "graph.cpp:9:2");
-  const SrcInfo& found = h->getSrcInfo();
-  EXPECT_EQ(found.getKind(), SrcInfo::UserJson) << "where its name first stands";
-  EXPECT_EQ(found.getFile() + " " + std::to_string(found.getLine()) + ":" +
-                std::to_string(found.getColumn()),
-            reader.getJsonPath() + " 9:15");
+  EXPECT_EQ(where(g->getSrcInfo()), "1 graph.cpp 9:2");
+  EXPECT_EQ(where(h->getSrcInfo()), "0 " + reader.getJsonPath() + " 9:15")
+      << "where its name first stands";
 }
 
 TEST_F(AreaGroupReadTest, TheGroupsAloneWhateverTheRootSays)
 {
-  class Prefixing : public BaseNameResolver {
-    std::string resolveNodeName(const std::string& name) const override { return "top/" + name; }
-  } prefixing;
+  const Resolver prefixing("top/");
   std::istringstream in(R"({"isToolGenerated": true, "NodeConstraints": {"n": {"k": 1}},
     "GlobalConstraints": {"areaGroup": {"name": "g", "nodeGroup": ["n"]}}})");
   ConstrReader(handler, prefixing).readAreaGroupConstrs(in, "groups.json", true);

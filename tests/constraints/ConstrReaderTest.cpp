@@ -1,45 +1,16 @@
 #include "ConstrSupport.h"
 
 #include "AttrConstr.h"
-#include "BaseNameResolver.h"
-#include "ConstrHandler.h"
 #include "ConstrReader.h"
-#include "HEXAlgException.h"
+
+#include <boost/algorithm/string/replace.hpp>
 
 #include <memory>
-#include <set>
 #include <sstream>
 
 namespace {
 
-using namespace qpe::constraints;
-using constr_support::ChildHandler;
-using constr_support::DataTree;
-using constr_support::schemaName;
-using testing_support::ExpectedMsg;
-using testing_support::MessageLogTest;
-using testing_support::TempDir;
-using testing_support::writeFile;
-using Base = BaseConstraint;
-using Mask = ComMsgMgr::MsgMask;
-
-// Names listed as unknown resolve to nothing.
-class PartialResolver : public BaseNameResolver {
-public:
-  PartialResolver(std::set<std::string> unknown, std::string scope)
-      : unknown_(std::move(unknown)), scope_(std::move(scope))
-  {
-  }
-  std::string getScopeName() const override { return scope_; }
-  std::string resolveNodeName(const std::string& name) const override { return known(name); }
-  std::string resolvePortName(const std::string& name) const override { return known(name); }
-  std::string resolveNetName(const std::string& name) const override { return known(name); }
-
-private:
-  std::string known(const std::string& name) const { return unknown_.count(name) ? "" : name; }
-  std::set<std::string> unknown_;
-  std::string scope_;
-};
+using namespace constr_support;
 
 // A host's handler: a parent with a hard and a soft child for tool-generated files.
 class ParentHandler : public ConstrHandler {
@@ -60,15 +31,10 @@ protected:
     return file;
   }
 
-  // The recorded location of the object's attribute, "kind file line:column".
   std::string location(const std::string& objName, const std::string& attrName) const
   {
     const AttrConstr* attr = handler.getAttrConstr(objName, attrName);
-    if (!attr)
-      return "no attribute";
-    const SrcInfo& info = attr->getSrcInfo();
-    return std::to_string(info.getKind()) + " " + info.getFile() + " " +
-           std::to_string(info.getLine()) + ":" + std::to_string(info.getColumn());
+    return attr ? where(attr->getSrcInfo()) : "no attribute";
   }
 
   const TempDir dir;
@@ -153,9 +119,7 @@ TEST_F(ConstrReaderTest, AKeyThatIsNotFoundByTextGetsLineZero)
 {
   // The file's name for the object is not the resolved one, so its text is
   // not found.
-  class Renaming : public BaseNameResolver {
-    std::string resolveNodeName(const std::string& name) const override { return "top/" + name; }
-  } renaming;
+  const Resolver renaming("top/");
   std::istringstream in(R"({"NodeConstraints": {"n": {"k": 1}}})");
   ConstrReader reader(handler, renaming);
   reader.read(in, put(in.str()), true);
@@ -185,7 +149,7 @@ TEST_F(ConstrReaderTest, LocationsWithoutAFileToScanAreReportedPerKey)
 
 TEST_F(ConstrReaderTest, FifoRecordsAreReadAndTheirNamesNotResolved)
 {
-  const PartialResolver resolver({"fifo_locations_records", "dma0", "p"}, "");
+  const Resolver resolver("", {"fifo_locations_records", "dma0", "p"});
   std::istringstream in(R"({"PortConstraints": {
     "fifo_locations_records": {
       "dma_fifos": {"dma0": {"column": 1, "row": 2, "tile_type": "mem", "offset": 3,
@@ -201,7 +165,7 @@ TEST_F(ConstrReaderTest, FifoRecordsAreReadAndTheirNamesNotResolved)
   JDocument written;
   written.SetObject();
   records.write(written, written);
-  EXPECT_EQ(testing_support::toText(written),
+  EXPECT_EQ(toText(written),
             R"({"fifo_locations_records":{"dma_fifos":{"dma0":{"tile_type":"mem","row":2,)"
             R"("column":1,"size":4,"offset":3,"bankId":5}},"stream_fifos":{"s0":)"
             R"({"tile_type":"core","column":6,"channel":7}}}})");
@@ -225,7 +189,7 @@ class ConstrReaderUnresolvedTest : public ConstrReaderTest,
 TEST_P(ConstrReaderUnresolvedTest, AnUnresolvedObjectIsSkippedAndTheReadGoesOn)
 {
   const UnresolvedCase& c = GetParam();
-  const PartialResolver resolver({"gone"}, c.scope);
+  const Resolver resolver("", {"gone"}, c.scope);
   std::istringstream in(std::string(R"({")") + c.section +
                         R"(": {"gone": {"a": 1}, "kept": {"a": 2}}})");
   handler.read(in, put(in.str()), resolver);
@@ -279,13 +243,9 @@ TEST_F(ConstrReaderTest, AChildOrAFileThatIsNotToolGeneratedReadsAsItStands)
 
 TEST_F(ConstrReaderTest, AToolGeneratedFileWithoutAChildThrows)
 {
-  try {
-    handler.read(put(toolFile));
-    ADD_FAILURE() << "no exception";
-  } catch (const HEXAlgException& failure) {
-    EXPECT_STREQ(failure.what(), "ConstrReader::readConstraints() - could not get the child "
-                                 "tool generated constraint handler");
-  }
+  expectRefused([&] { handler.read(put(toolFile)); },
+                "ConstrReader::readConstraints() - could not get the child tool generated "
+                "constraint handler");
 }
 
 TEST_F(ConstrReaderTest, AReadMergesIntoWhatIsThere)
@@ -304,12 +264,30 @@ TEST_F(ConstrReaderTest, WithoutValidationAFileThatBreaksTheSchemaIsRead)
   EXPECT_EQ(handler.size(), 1u);
 }
 
-// The failures of a read, in a directory that holds the file.
+TEST_F(ConstrReaderTest, AStreamThatIsNotGoodIsRefused)
+{
+  std::istringstream in("{}");
+  in.setstate(std::ios_base::badbit);
+  expectThrows([&] { ConstrReader(handler).read(in, file, true); }, "@90-1@%s", {file});
+}
+
+TEST_F(ConstrReaderTest, TheShippedSchemaTakesEveryKeyOfEveryKind)
+{
+  EXPECT_NO_THROW(
+      ConstrReader(handler).read(IPCONFIG_RW_TESTS_DATA_DIR "/constraints_every_key.json", true));
+}
+
+enum class Schema { shipped, hidden, missing, malformed };
+
+// A read that fails, and what it throws: "$F" in the arguments stands for the
+// file's path, "$S" for the schema's.
 struct FailureCase {
   const char* name;
-  std::function<void(ConstrReader&, const TempDir& dir)> read;
+  const char* text;  // null: no file
+  Schema schema;
+  bool validate;
   std::string format;
-  std::function<std::vector<std::string>(const TempDir& dir)> args;
+  std::vector<std::string> args;
 };
 
 void PrintTo(const FailureCase& c, std::ostream* out)
@@ -322,184 +300,70 @@ class ConstrReaderFailureTest : public ConstrReaderTest,
 
 TEST_P(ConstrReaderFailureTest, ThrowsTheMessageAndLeavesTheHandlerAsItWas)
 {
+  const FailureCase& c = GetParam();
   handler.setAttrConstr(Base::NODE, "before", "a", 1);
-  put(R"({"NodeConstraints": {"n": {"a": 1}}})");
+  if (c.text)
+    put(c.text);
+  const DataTree tree;
+  const std::string schema = dir.file("schema.json");
   ConstrReader reader(handler);
-  expectThrows([&] { GetParam().read(reader, dir); }, GetParam().format, GetParam().args(dir));
+  if (c.schema == Schema::hidden)
+    tree.hideSchemas();
+  if (c.schema == Schema::malformed)
+    writeFile(schema, "{\"type\": ");
+  if (c.schema == Schema::missing || c.schema == Schema::malformed)
+    reader.setSchema(schema);
+  std::vector<std::string> args = c.args;
+  for (std::string& arg : args) {
+    boost::replace_all(arg, "$F", file);
+    boost::replace_all(arg, "$S", schema);
+  }
+  expectThrows([&] { reader.read(file, c.validate); }, c.format, args);
   EXPECT_EQ(handler.size(), 1u);
 }
 
-using Args = std::vector<std::string>;
-
-std::string fileIn(const TempDir& dir)
-{
-  return dir.file("constraints.json");
-}
-
-std::string schemaIn(const TempDir& dir)
-{
-  return dir.file("schema.json");
-}
+const char* const valid = R"({"NodeConstraints": {"n": {"a": 1}}})";
+const std::string violation = "@75-571@%s%s%s%s";
 
 INSTANTIATE_TEST_SUITE_P(
     Failures, ConstrReaderFailureTest,
     ::testing::Values(
-        FailureCase{"NoSchema",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      const DataTree tree;
-                      tree.hide(schemaName);
-                      tree.hide(constr_support::oldSchemaName);
-                      reader.read(fileIn(dir), true);
-                    },
-                    "@75-391@", [](const TempDir&) { return Args{}; }},
-        FailureCase{"MissingSchema",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      reader.setSchema(schemaIn(dir));
-                      reader.read(fileIn(dir), false);
-                    },
-                    "@90-5@%s%s",
-                    [](const TempDir& dir) {
-                      return Args{schemaIn(dir), "file does not exist: " + schemaIn(dir)};
-                    }},
-        FailureCase{"MalformedSchema",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      writeFile(schemaIn(dir), "{\"type\": ");
-                      reader.setSchema(schemaIn(dir));
-                      reader.read(fileIn(dir), true);
-                    },
-                    "@90-4@%s%s",
-                    [](const TempDir& dir) {
-                      return Args{schemaIn(dir), "Invalid value. (offset 9)"};
-                    }},
-        FailureCase{"BadStream",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      std::istringstream in("{}");
-                      in.setstate(std::ios_base::badbit);
-                      reader.read(in, fileIn(dir), true);
-                    },
-                    "@90-1@%s", [](const TempDir& dir) { return Args{fileIn(dir)}; }},
-        FailureCase{"MissingFile",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      reader.read(dir.file("missing.json"), true);
-                    },
-                    "@90-1@%s", [](const TempDir& dir) { return Args{dir.file("missing.json")}; }},
-        FailureCase{"SyntaxError",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      std::istringstream in(R"({"NodeConstraints": {"n": {"a": 1,}}})");
-                      reader.read(in, fileIn(dir), false);
-                    },
-                    "@90-2@%s%s",
-                    [](const TempDir& dir) {
-                      return Args{fileIn(dir), "Missing a name for object member. (offset 34)"};
-                    }},
-        FailureCase{"SchemaViolation",
-                    [](ConstrReader& reader, const TempDir& dir) {
-                      std::istringstream in(
-                          R"({"NodeConstraints": {"n": {"a": 1}}, "isSoft": "yes"})");
-                      reader.read(in, fileIn(dir), true);
-                    },
-                    "@75-571@%s%s%s%s",
-                    [](const TempDir& dir) {
-                      return Args{fileIn(dir), "/properties/isSoft", "type", "/isSoft"};
-                    }}));
-
-// What the shipped schema takes, and where it points for what it refuses.
-struct SchemaCase {
-  const char* name;
-  const char* text;
-  std::string schemaPointer;
-  std::string keyword;  // empty: valid
-  std::string documentPointer;
-};
-
-void PrintTo(const SchemaCase& c, std::ostream* out)
-{
-  *out << c.name;
-}
-
-class ConstrSchemaTest : public ConstrReaderTest,
-                         public ::testing::WithParamInterface<SchemaCase> {};
-
-TEST_P(ConstrSchemaTest, ValidatesEveryKindsKeysAndPointsAtTheOffendingOne)
-{
-  const SchemaCase& c = GetParam();
-  std::istringstream in(c.text);
-  if (c.keyword.empty()) {
-    EXPECT_NO_THROW(ConstrReader(handler).read(in, file, true));
-    return;
-  }
-  expectThrows([&] { ConstrReader(handler).read(in, file, true); }, "@75-571@%s%s%s%s",
-               {file, c.schemaPointer, c.keyword, c.documentPointer});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Documents, ConstrSchemaTest,
-    ::testing::Values(
-        SchemaCase{"RootKeys",
-                   R"({"isToolGenerated": false, "isSoft": false, "Other": 1})", "", "", ""},
-        SchemaCase{"NodeKeys",
-                   R"json({"NodeConstraints": {"n": {
-          "tile": {"name": "t", "column": 1, "row": 2, "tile_type": "core"},
-          "tile_src_info": {"file": "f", "line": 1, "column": 2},
-          "mem": [{"column": 1, "row": 2, "bankId": 3, "offset": 4}], "mem_src_info": {},
-          "shim": {"column": 1, "channel": 2}, "reserved_memory": {"bankId": 1, "offset": 2},
-          "colocated_nodes": ["a", {"b": {"issoft": true}}, {"c": true}],
-          "relative_nodes": ["a:(X=1,Y=2)"], "not_colocated_nodes": [],
-          "colocated_reserved_memories": ["m"], "not_colocated_reserved_memories": ["m"],
-          "not_colocated_nodes_src_info": {"file": "f"},
-          "colocated_ports": ["p"], "anything": null}}})json",
-                   "", "", ""},
-        SchemaCase{"PortKeysAndFifoRecords",
-                   R"({"PortConstraints": {
-          "fifo_locations_records": {
-            "dma_fifos": {"d": {"tile_type": "mem", "row": 1, "column": 2, "size": 3,
-                                "offset": 4, "bankId": 5}},
-            "stream_fifos": {"s": {"tile_type": "core", "row": 1, "column": 2, "channel": 3}}},
-          "p": {"buffers": [], "stream_channel": {"column": 1, "row": 2, "offset": 3,
-                                                  "direction": "North", "channel": 4},
-                "colocated_ports": ["q"], "not_colocated_ports": ["q"],
-                "exclusive_colocated_ports": [{"q": {"issoft": false}}],
-                "exclusive_colocated_ports_src_info": {"file": "f", "line": 3},
-                "colocated_dma": ["q"], "fifo_locations": ["d", "s"],
-                "loc": {"name": "l", "channel": 1, "channel_type": "control"},
-                "port_loc": {"tile_type": "shim", "row": 0, "column": 1, "channel": 2}}}})",
-                   "", "", ""},
-        SchemaCase{"NetKeysAndGroups",
-                   R"json({"NetConstraints": {"e": {"w": 1, "w_src_info": {"file": "f"}}},
-          "GlobalConstraints": {
-            "areaGroup": {"name": "g", "exclude": true, "issoft": false,
-                          "contain_routing": true, "exclusive_routing": false,
-                          "exclusive_placement": true, "nodeGroup": ["a"],
-                          "tileGroup": ["(1,2):(3,4)", 3, [1, 2]], "memGroup": [[1, 2]],
-                          "shimGroup": ["s"], "srcInfo": {"file": "f", "line": 1}},
-            "areaGroup": {"name": "h"},
-            "instGroup": {"name": "i", "isisomorphic": true, "nodeGroup": ["a"]},
-            "dependentRoutingGroup": {"name": "d", "nodeGroup": ["a"]},
-            "isomorphicGraphGroup": {"name": "m", "referenceGraph": "r",
-                                     "stampedGraphs": ["s"]},
-            "other": 1}})json",
-                   "", "", ""},
-        SchemaCase{"SectionNotAnObject",
-                   R"({"NodeConstraints": []})", "/properties/NodeConstraints", "type",
-                   "/NodeConstraints"},
-        SchemaCase{"MemNotAnArray",
-                   R"({"NodeConstraints": {"n": {"mem": {}}}})", "/definitions/addresses",
-                   "type", "/NodeConstraints/n/mem"},
-        SchemaCase{"SrcInfoLineNegative",
-                   R"({"NodeConstraints": {"n": {"k_src_info": {"line": -1}}}})",
-                   "", "patternProperties", "/NodeConstraints/n/k_src_info"},
-        SchemaCase{"ListElementNotANameOrObject",
-                   R"({"NodeConstraints": {"n": {"colocated_nodes": [1]}}})",
-                   "/definitions/listWithProperties/items", "type",
-                   "/NodeConstraints/n/colocated_nodes/0"},
-        SchemaCase{"PortLocChannelNotAnInteger",
-                   R"({"PortConstraints": {"p": {"port_loc": {"channel": "2"}}}})",
-                   "/definitions/portLoc/properties/channel", "type",
-                   "/PortConstraints/p/port_loc/channel"},
-        SchemaCase{"GroupLocationNotALocation",
-                   R"({"GlobalConstraints": {"areaGroup": {"name": "a"},
-                                             "areaGroup": {"tileGroup": [true]}}})",
-                   "/definitions/locations/items", "type",
-                   "/GlobalConstraints/areaGroup/tileGroup/0"}));
+        FailureCase{"NoSchema", valid, Schema::hidden, true, "@75-391@", {}},
+        FailureCase{"MissingSchema", valid, Schema::missing, false, "@90-5@%s%s",
+                    {"$S", "file does not exist: $S"}},
+        FailureCase{"MalformedSchema", valid, Schema::malformed, true, "@90-4@%s%s",
+                    {"$S", "Invalid value. (offset 9)"}},
+        FailureCase{"MissingFile", nullptr, Schema::shipped, true, "@90-1@%s", {"$F"}},
+        FailureCase{"SyntaxError", R"({"NodeConstraints": {"n": {"a": 1,}}})", Schema::shipped,
+                    false, "@90-2@%s%s", {"$F", "Missing a name for object member. (offset 34)"}},
+        FailureCase{"RootKeyType", R"({"NodeConstraints": {"n": {"a": 1}}, "isSoft": "yes"})",
+                    Schema::shipped, true, violation,
+                    {"$F", "/properties/isSoft", "type", "/isSoft"}},
+        FailureCase{"SectionNotAnObject", R"({"NodeConstraints": []})", Schema::shipped, true,
+                    violation, {"$F", "/properties/NodeConstraints", "type", "/NodeConstraints"}},
+        FailureCase{"MemNotAnArray", R"({"NodeConstraints": {"n": {"mem": {}}}})",
+                    Schema::shipped, true, violation,
+                    {"$F", "/definitions/addresses", "type", "/NodeConstraints/n/mem"}},
+        FailureCase{"SrcInfoLineNegative",
+                    R"({"NodeConstraints": {"n": {"k_src_info": {"line": -1}}}})",
+                    Schema::shipped, true, violation,
+                    {"$F", "", "patternProperties", "/NodeConstraints/n/k_src_info"}},
+        FailureCase{"ListElementNotANameOrObject",
+                    R"({"NodeConstraints": {"n": {"colocated_nodes": [1]}}})", Schema::shipped,
+                    true, violation,
+                    {"$F", "/definitions/listWithProperties/items", "type",
+                     "/NodeConstraints/n/colocated_nodes/0"}},
+        FailureCase{"PortLocChannelNotAnInteger",
+                    R"({"PortConstraints": {"p": {"port_loc": {"channel": "2"}}}})",
+                    Schema::shipped, true, violation,
+                    {"$F", "/definitions/portLoc/properties/channel", "type",
+                     "/PortConstraints/p/port_loc/channel"}},
+        FailureCase{"GroupLocationNotALocation",
+                    R"({"GlobalConstraints": {"areaGroup": {"name": "a"},
+                                              "areaGroup": {"tileGroup": [true]}}})",
+                    Schema::shipped, true, violation,
+                    {"$F", "/definitions/locations/items", "type",
+                     "/GlobalConstraints/areaGroup/tileGroup/0"}}),
+    [](const auto& info) { return info.param.name; });
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "ConstrSupport.h"
 
-#include "ConstrHandler.h"
 #include "ConstrReader.h"
 #include "MemConstr.h"
 #include "ReservedMemoryConstr.h"
@@ -10,13 +9,8 @@
 
 namespace {
 
-using namespace qpe::constraints;
-using constr_support::written;
+using namespace constr_support;
 using spec_builders::address;
-using testing_support::ExpectedMsg;
-using testing_support::MessageLogTest;
-using Base = BaseConstraint;
-using Mask = ComMsgMgr::MsgMask;
 
 class PlacementConstrTest : public MessageLogTest {};
 
@@ -124,14 +118,9 @@ TEST_F(PlacementConstrTest, KeysOfAFile)
   EXPECT_EQ(handler.getTileConstr("unknownType")->getTileType(), PhysicalSpec::Core);
   const TileConstr* tile = handler.getTileConstr("memType");
   EXPECT_EQ(tile->getTileType(), PhysicalSpec::Mem);
-  const SrcInfo& found = tile->getSrcInfo();
-  EXPECT_EQ(found.getKind(), SrcInfo::UserJson) << "a source key before its key counts not";
-  EXPECT_EQ(found.getFile() + " " + std::to_string(found.getLine()) + ":" +
-                std::to_string(found.getColumn()),
-            reader.getJsonPath() + " 9:7");
-  const SrcInfo& given = handler.getShimConstr("memType")->getSrcInfo();
-  EXPECT_EQ(given.getKind(), SrcInfo::SourceFile);
-  EXPECT_EQ(given.getFile() + ":" + std::to_string(given.getLine()), "graph.cpp:3");
+  EXPECT_EQ(where(tile->getSrcInfo()), "0 " + reader.getJsonPath() + " 9:7")
+      << "a source key before its key counts not";
+  EXPECT_EQ(where(handler.getShimConstr("memType")->getSrcInfo()), "1 graph.cpp 3:4");
 }
 
 }  // namespace
