@@ -31,8 +31,6 @@ TEST(AttrConstrTest, CanonicalNames)
   EXPECT_TRUE(AttrConstr::isPredefinedAttrName("qpe.Utilization"));
   EXPECT_FALSE(AttrConstr::isPredefinedAttrName("utilization"));
   EXPECT_FALSE(AttrConstr::isPredefinedAttrName("QPE.MARGINS"));
-  EXPECT_EQ(AttrConstr::getCanonicalPrefix(), "qpe.");
-  EXPECT_EQ(AttrConstr::getOldZXPrefix(), "zx.");
 
   const std::pair<const char*, const char*> stripped[] = {
       {"QPE.RunTime", "runtime"}, {"MyKey", "mykey"}, {"qpe.zx.Foo", "zx.foo"}, {"qpe", "qpe"}};
@@ -95,24 +93,6 @@ INSTANTIATE_TEST_SUITE_P(
         WriteCase{"Qpe.Label", HATAttrTypes::AttrString, [](AttrConstr& a) { a.setVal("x y"); },
                   R"({"label":"x y","label_src_info":)" + srcInfo + "}"},
         WriteCase{"list", HATAttrTypes::AttrStringList, [](AttrConstr&) {}, "{}"}));
-
-TEST(AttrConstrTest, ValuesSetAndClear)
-{
-  AttrConstr margin(BaseConstraint::NODE, "n", HATAttrTypes::AttrInt, "QPE.MARGIN");
-  EXPECT_FALSE(margin.isSet());
-  EXPECT_EQ(margin.getIntVal(), -1);
-  margin.setVal(-1);
-  EXPECT_FALSE(margin.isSet()) << "the default is no value";
-  margin.setIntVal(0);
-  EXPECT_TRUE(margin.isSet());
-  margin.clear();
-  EXPECT_FALSE(margin.isSet());
-  EXPECT_EQ(margin.getIntVal(), -1);
-
-  margin.setVal(4);
-  margin.offsetColumn(10);
-  EXPECT_EQ(margin.getIntVal(), 4);
-}
 
 TEST(AttrConstrTest, PrintsTheValueByType)
 {

@@ -78,7 +78,6 @@ TEST(AttrValueTest, ClearAndCopyKeepDefaultsAndOtherFlagBits)
   EXPECT_EQ(number.getIntVal(), 5);
 
   AttrValue text("name", "dflt");
-  EXPECT_EQ(text.getStringVal(), "name");
   text.clear();
   EXPECT_EQ(text.getStringVal(), "dflt");
 
@@ -90,13 +89,6 @@ TEST(AttrValueTest, ClearAndCopyKeepDefaultsAndOtherFlagBits)
     value.clear();
     EXPECT_EQ(value.getDoubleVal(), expected) << type;
   }
-
-  AttrValue list = listOf({"b", "a"});
-  list.addStringVecVal("c");
-  list.addStringVecVal("a");
-  EXPECT_EQ(list.getStringVecVal(), (Names{"b", "a", "c", "a"}));
-  list.setStringVecVal({"z"});
-  EXPECT_EQ(list.getStringVecVal(), (Names{"z"}));
 }
 
 }  // namespace

@@ -7,10 +7,8 @@
 #include "JArray.h"
 #include "JIntPair.h"
 #include "JMemValue.h"
-#include "JPair.h"
 #include "JShimValue.h"
 #include "JSimpleValue.h"
-#include "JSrcInfoValue.h"
 #include "JString.h"
 #include "JTileValue.h"
 #include "JsonValueUtils.h"
@@ -73,36 +71,24 @@ INSTANTIATE_TEST_SUITE_P(
 
 class TextSyntaxTest : public MessageLogTest {};
 
-TEST_F(TextSyntaxTest, StripParensReportsALoneParenthesis)
+TEST_F(TextSyntaxTest, StripParensReportsALoneParenthesisAndSplitCutsAtTheFirstSeparator)
 {
-  const std::pair<const char*, const char*> quiet[] = {
-      {"(", "("}, {")", ")"}, {"(3)", "3"}, {"()", ""}, {"ab", "ab"}, {"", ""}};
-  for (const auto& [text, stripped] : quiet) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"(", "("}, {")", ")"}, {"(3)", "3"}, {"()", ""}, {"ab", "ab"}, {"", ""},
+      {"(3", "3"}, {"3)", "3"}};
+  for (const auto& [text, stripped] : cases) {
     std::string value = text;
     stripParens(value);
     EXPECT_EQ(value, stripped) << text;
   }
-  expectSent({});
-
-  for (const auto& [text, stripped] : {std::pair{"(3", "3"}, std::pair{"3)", "3"}}) {
-    std::string value = text;
-    stripParens(value);
-    EXPECT_EQ(value, stripped);
-  }
   expectSent({{"@75-646@%s", critical, {"(3"}}, {"@75-646@%s", critical, {"3)"}}});
-}
 
-TEST_F(TextSyntaxTest, SplitAtTheFirstSeparator)
-{
   std::string left = "L";
   std::string right = "R";
   split("ab", left, right, ',');
   EXPECT_EQ(left + right, "LR") << "without a separator both stay";
   split("a,b,c", left, right, ',');
-  EXPECT_EQ(left, "a");
-  EXPECT_EQ(right, "b,c");
-  split(",", left, right, ',');
-  EXPECT_EQ(left + right, "");
+  EXPECT_EQ(left + "|" + right, "a|b,c");
 }
 
 class ComplexPairTest : public testing::TestWithParam<PairCase> {};
@@ -232,45 +218,22 @@ INSTANTIATE_TEST_SUITE_P(
                      "mem=(tile_a) mem=(tile_b)", "shim=(tile_a) shim=(tile_b)"},
         LocationCase{R"("1:5")", "tile=(1,-1) tile=(5,-1)", "mem=(1,-1) mem=(5,-1)",
                      "shim=(1,-1) shim=(5,-1)"},
-        LocationCase{R"("")", "-", "-", "-"}, LocationCase{"1.5", "-", "-", "-"},
+        LocationCase{R"("")", "-", "-", "-"}, LocationCase{R"(":5")", "-", "-", "-"},
+        LocationCase{"1.5", "-", "-", "-"},
         LocationCase{"{}", "-", "-", "-"}, LocationCase{"null", "-", "-", "-"}));
 
-TEST_F(TextSyntaxTest, ALocationStringIsKeptAndReported)
+TEST(JsonViewTest, MissingOrMistypedValuesReadAsTheSharedNull)
 {
-  const auto doc = parsed(R"(":5")");
-  JTileValue tile(*doc);
-  tile.parse();
-  EXPECT_FALSE(tile.isValid());
-  EXPECT_EQ(tile.getText(), ":5");
-  EXPECT_EQ(tile.getSecond().getColumn(), 5);
-  expectSent({{"@75-647@%s", critical, {":5"}}});
-
-  const auto number = parsed("[2, 9]");
-  JTileValue notParsed(*number);
-  EXPECT_FALSE(notParsed.isValid()) << "before parse";
-  EXPECT_EQ(notParsed.getText(), "");
-}
-
-TEST(JsonViewTest, MissingThingsReadAsTheSharedNull)
-{
-  const auto doc = parsed(R"({"a": [1, 2], "b": "s", "n": [1, "x"], "o": {"k": 1}})");
+  const auto doc = parsed(R"({"a": [1, 2], "b": "s", "n": [1, "x"]})");
   const JBaseValue root(*doc);
-  EXPECT_TRUE(root.isValid());
   EXPECT_EQ(&root.getMember(""), &JBaseValue::nullValue());
   EXPECT_EQ(&root.getMember("missing"), &JBaseValue::nullValue());
   EXPECT_EQ(&JBaseValue(root.getMember("b")).getMember("x"), &JBaseValue::nullValue());
-  EXPECT_FALSE(JBaseValue(root.getMember("missing")).isValid());
-  EXPECT_TRUE(JBaseValue(root.getMember("a")).isIntPair());
   EXPECT_TRUE(JBaseValue(root.getMember("n")).isPair());
   EXPECT_FALSE(JBaseValue(root.getMember("n")).isIntPair());
-
-  const JIntPair ints(root.getMember("a"));
-  EXPECT_EQ(ints.getFirst() * 10 + ints.getSecond(), 12);
-  const JIntPair mixed(root.getMember("n"));
-  EXPECT_FALSE(mixed.isValid());
-  EXPECT_EQ(mixed.getFirst(), -1);
-  EXPECT_TRUE(JPair(root.getMember("n")).getSecondValue().IsString());
-  EXPECT_FALSE(JPair(root.getMember("o")).isValid());
+  EXPECT_FALSE(JIntPair(root.getMember("n")).isValid());
+  EXPECT_EQ(JIntPair(root.getMember("n")).getFirst(), -1);
+  EXPECT_EQ(JIntPair(root.getMember("a")).getSecond(), 2);
 
   const auto simple = parsed(R"([true, 3, 1.5, "s", null, [], {}, 3000000000])");
   const bool expected[] = {true, true, true, true, false, false, false, false};
@@ -280,18 +243,9 @@ TEST(JsonViewTest, MissingThingsReadAsTheSharedNull)
     EXPECT_EQ(JString(values._front()).isValid(), i == 3) << i;
   }
   EXPECT_EQ(i, 8);
-  EXPECT_EQ(JSimpleValue((*simple)[3]).getString() + JSimpleValue((*simple)[1]).getString(), "s");
-
   const JArray notArray(*doc, "b");
   EXPECT_FALSE(notArray.isValid());
   EXPECT_TRUE(notArray.isEnd());
-  EXPECT_EQ(&notArray._front(), &JBaseValue::nullValue());
-  JArray byKey(*doc, "a");
-  byKey.advance();
-  EXPECT_EQ(byKey._front().GetInt(), 2);
-  byKey.advance();
-  byKey.advance();
-  EXPECT_TRUE(byKey.isEnd());
 }
 
 TEST(JsonViewTest, ListsAndSourceLocations)
@@ -300,26 +254,15 @@ TEST(JsonViewTest, ListsAndSourceLocations)
     "list": ["a", 3, {"b": {"issoft": true}}, {"c": true}, {"d": {"issoft": 1}},
              {"e": {}, "f": 2}, {"x": {"issoft": true}, "y": false}, {"": true}, ""],
     "names": ["a", "", 3, "b"],
-    "label": "text",
     "src": {"file": "f.cc", "line": 7, "column": -1},
     "lineOnly": {"line": 7}})");
   using Entry = std::pair<std::string, ConstrProperties>;
   EXPECT_EQ(readObjectArrayWithProperties((*doc)["list"]),
-            (std::vector<Entry>{{"a", {false}},
-                                {"b", {true}},
-                                {"c", {true}},
-                                {"d", {false}},
-                                {"e", {false}},
-                                {"y", {false}}}));
+            (std::vector<Entry>{{"a", {false}}, {"b", {true}}, {"c", {true}}, {"d", {false}},
+                                {"e", {false}}, {"y", {false}}}));
   EXPECT_TRUE(readObjectArrayWithProperties(*doc).empty());
-
-  using Names = std::vector<std::string>;
-  EXPECT_EQ(readStringArrayValue((*doc)["names"]), (Names{"a", "b"}));
-  EXPECT_EQ(readStringArrayValue(*doc, "names"), (Names{"a", "b"}));
-  EXPECT_TRUE(readStringArrayValue(*doc, "label").empty());
-  EXPECT_TRUE(readStringArrayValue(*doc).empty());
-  EXPECT_EQ(readStringValue(*doc, "label"), "text");
-  EXPECT_EQ(readStringValue(*doc, "names"), "");
+  EXPECT_EQ(readStringArrayValue(*doc, "names"), (std::vector<std::string>{"a", "b"}));
+  EXPECT_TRUE(readStringArrayValue(*doc, "src").empty());
 
   std::string file = "old";
   std::uint32_t line = 1;

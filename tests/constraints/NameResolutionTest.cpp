@@ -69,8 +69,6 @@ TEST_F(BaseNameResolverTest, ListsDropAndReportWhatDoesNotResolve)
 TEST_F(BaseNameResolverTest, IdentityKeepsNamesButNotEmptyOnes)
 {
   const BaseNameResolver identity;
-  EXPECT_EQ(identity.getScopeName(), "");
-  EXPECT_EQ(identity.resolveScopedNetName("n"), "n");
   Names names{"a", "b", "a"};
   identity.resolveNodeNames(names);
   EXPECT_EQ(names, (Names{"a", "b", "a"}));

@@ -1,6 +1,5 @@
 #include "SpecBuilders.h"
 
-#include "DefaultXYValues.h"
 #include "PhysicalSpecFormatter.h"
 
 #include <gtest/gtest.h>
@@ -31,8 +30,6 @@ TEST(PhysicalSpecTest, TypeTextsBothWays)
       {"", Spec::Unset}};
   for (const auto& [word, type] : channels)
     EXPECT_EQ(Spec::toPhysicalSpecShimChannelType(word), type) << word;
-  EXPECT_EQ(DefaultXYValues::XCoordinateNotSetValue, -9999);
-  EXPECT_EQ(DefaultXYValues::YCoordinateNotSetValue, -9999);
 }
 
 // What a location says of itself after a sequence of setters (innermost first).
@@ -87,26 +84,6 @@ TEST(PhysicalSpecTest, FieldsTextsAndValidityAfterEachSequence)
     EXPECT_EQ(c.spec.getXY(), c.xy);
     EXPECT_EQ(c.spec.getName().empty(), !has('n'));
   }
-}
-
-TEST(PhysicalSpecTest, KindsKeepTheirTypeAndCopiesTheirFields)
-{
-  json::MemSpec mem;
-  mem.setXY({4, 5});
-  mem.clear();
-  EXPECT_TRUE(mem.isMem());
-  json::ShimSpec shimSpec;
-  shimSpec.set({6, 0});
-  shimSpec.setChannel(3);
-  EXPECT_TRUE(shimSpec.isChannelSet());
-  EXPECT_EQ(shimSpec.getChannel(), 3);
-  EXPECT_TRUE(json::TileSpec().isTile());
-
-  Spec copy(shimSpec);
-  shimSpec.clear();
-  EXPECT_EQ(copy.str(), "shim=(6,3)");
-  copy = Spec();
-  EXPECT_EQ(copy.str(), "tile=(-1,-1)");
 }
 
 TEST(PhysicalSpecTest, BoundingBoxIsInclusiveAndIgnoresUnsetAxes)
