@@ -13,6 +13,7 @@ namespace {
 
 using namespace HrdIPToolCntr;
 namespace Defs = DevHrdIP::Definitions;
+using testing_support::BadTextCase;
 using testing_support::MessageLogTest;
 
 const std::string fileName = "in/traffic.json";
@@ -92,19 +93,8 @@ TEST_F(NOCJsonTrafficSpecReaderTest, ProgressIsReportedUnderTheLockInOrder)
   EXPECT_TRUE(status.isBusy());
 }
 
-struct FailureCase {
-  const char* name;
-  std::string text;
-  std::string detail;  // the second argument of "@90-2@%s%s"
-};
-
-void PrintTo(const FailureCase& c, std::ostream* out)
-{
-  *out << c.name;
-}
-
 class TrafficReaderFailureTest : public NOCJsonTrafficSpecReaderTest,
-                                 public ::testing::WithParamInterface<FailureCase> {};
+                                 public ::testing::WithParamInterface<BadTextCase> {};
 
 TEST_P(TrafficReaderFailureTest, ReportsTheExactText)
 {
@@ -114,21 +104,21 @@ TEST_P(TrafficReaderFailureTest, ReportsTheExactText)
 INSTANTIATE_TEST_SUITE_P(
     Inputs, TrafficReaderFailureTest,
     ::testing::Values(
-        FailureCase{"unknownType", file(R"({"Name": "x", "CompType": "NPS_9"})"),
+        BadTextCase{"unknownType", file(R"({"Name": "x", "CompType": "NPS_9"})"),
                     "Unknown component type : NPS_9"},
-        FailureCase{"emptyName", file(R"({"CompType": "PL_NMU"})"), "Empty logical instance name"},
-        FailureCase{"destIdOf13Bits", file(R"({"Name": "x", "CompType": "NPS", "DestId": 4096})"),
+        BadTextCase{"emptyName", file(R"({"CompType": "PL_NMU"})"), "Empty logical instance name"},
+        BadTextCase{"destIdOf13Bits", file(R"({"Name": "x", "CompType": "NPS", "DestId": 4096})"),
                     "DestId entry is expected to be a 12 bit maximum"},
-        FailureCase{"negativeDestId", file(R"({"Name": "x", "CompType": "NPS", "DestId": -1})"),
+        BadTextCase{"negativeDestId", file(R"({"Name": "x", "CompType": "NPS", "DestId": -1})"),
                     "DestId entry is expected to be a 12 bit maximum"},
-        FailureCase{"unknownFrom", file(master + "," + slave, R"({"From": "q", "To": "s"})"),
+        BadTextCase{"unknownFrom", file(master + "," + slave, R"({"From": "q", "To": "s"})"),
                     "Path 'from' name is unknown: q"},
-        FailureCase{"unknownTo", file(master + "," + slave, R"({"From": "m", "To": "t"})"),
+        BadTextCase{"unknownTo", file(master + "," + slave, R"({"From": "m", "To": "t"})"),
                     "Path 'to' name is unknown: t"},
-        FailureCase{"wrongType", file(R"({"Name": "x", "IsMaster": 1})"),
+        BadTextCase{"wrongType", file(R"({"Name": "x", "IsMaster": 1})"),
                     "/LogicalInstances/0/IsMaster"},
-        FailureCase{"negativeBandwidth", file("", R"({}, {"ReadBW": -1})"), "/Paths/1/ReadBW"},
-        FailureCase{"addressAsBoolean",
+        BadTextCase{"negativeBandwidth", file("", R"({}, {"ReadBW": -1})"), "/Paths/1/ReadBW"},
+        BadTextCase{"addressAsBoolean",
                     file(R"({"SysAddresses": [{"Base": true}]})"),
                     "/LogicalInstances/0/SysAddresses/0/Base"}),
     [](const auto& info) { return info.param.name; });
