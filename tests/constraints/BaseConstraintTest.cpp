@@ -1,8 +1,8 @@
 #include "ConstrSupport.h"
-#include "SpecBuilders.h"
 
 #include "ConstrCast.h"
 #include "ConstrUtils.h"
+#include "PortRenamer.h"
 
 namespace {
 
@@ -19,7 +19,6 @@ public:
   using BaseConstraint::setConstrObjectProperties;
   using BaseConstraint::setConstrObjectsProperties;
   using BaseConstraint::setSoftConstraintForObject;
-  using BaseConstraint::writeAddress;
   using BaseConstraint::writeConstraintObjectsWithProperties;
   using BaseConstraint::writeGroupSrcInfo;
 
@@ -89,35 +88,20 @@ TEST(BaseConstraintTest, OnlySoftPropertiesAreKept)
   EXPECT_FALSE(TestConstr::isSoftConstraintForObject("missing", map));
 }
 
-// Resolves "all" to two names, drops "gone" and prefixes the rest by kind.
-class PrefixResolver : public BaseNameResolver {
+// Tells which of its operations resolved a name.
+class KindResolver : public BaseNameResolver {
 public:
-  std::string resolveNodeName(const std::string& n) const override { return pick(n, "n:"); }
-  std::string resolvePortName(const std::string& n) const override { return pick(n, "p:"); }
-  std::string resolveNetName(const std::string& n) const override { return pick(n, "e:"); }
-  std::string resolveScopedPortName(const std::string& n) const override
-  {
-    return pick(n, "top/");
-  }
-  void resolveNodePattern(const std::string& pattern, std::vector<std::string>& out) const override
-  {
-    if (pattern != "all")
-      return BaseNameResolver::resolveNodePattern(pattern, out);
-    out.insert(out.end(), {"x", "y"});
-  }
-
-private:
-  static std::string pick(const std::string& name, const char* prefix)
-  {
-    return name == "gone" ? "" : prefix + name;
-  }
+  std::string resolveNodeName(const std::string& n) const override { return "n:" + n; }
+  std::string resolvePortName(const std::string& n) const override { return "p:" + n; }
+  std::string resolveNetName(const std::string& n) const override { return "e:" + n; }
+  std::string resolveScopedPortName(const std::string& n) const override { return "top/" + n; }
 };
 
 class BaseConstraintMsgTest : public MessageLogTest {};
 
 TEST_F(BaseConstraintMsgTest, ResolvedNameFollowsTheObjectType)
 {
-  const PrefixResolver resolver;
+  const KindResolver resolver;
   const std::pair<Base::ObjectType, const char*> cases[] = {
       {Base::NODE, "n:o"}, {Base::PORT, "p:o"}, {Base::NET, "e:o"}, {Base::GLOBAL, "o"}};
   for (const auto& [objType, expected] : cases) {
@@ -130,25 +114,24 @@ TEST_F(BaseConstraintMsgTest, ResolvedNameFollowsTheObjectType)
 
 TEST_F(BaseConstraintMsgTest, RekeyingMovesPropertiesToEveryResolvedName)
 {
-  const PrefixResolver resolver;
-  ConstrPropertiesMap nodes{{"all", {true}}, {"gone", {true}}, {"x", {false}}, {"z", {true}}};
+  const Resolver resolver("n:", {"gone"});
+  ConstrPropertiesMap nodes{{"x*", {true}}, {"gone", {true}}, {"x0", {false}}, {"z", {true}}};
   TestConstr::resolveNodeNames(nodes, &resolver);
-  // "x" first takes the properties of "all", then is itself re-keyed away.
+  // "x0" first takes the properties of "x*", then is itself re-keyed away.
   EXPECT_EQ(nodes, (ConstrPropertiesMap{
-                       {"gone", {true}}, {"y", {true}}, {"n:x", {false}}, {"n:z", {true}}}));
+                       {"gone", {true}}, {"x1", {true}}, {"n:x0", {false}}, {"n:z", {true}}}));
   expectSent({{"@75-412@%s", ComMsgMgr::CriticalWarning, {"gone"}}});
 
+  const KindResolver kinds;
   ConstrPropertiesMap ports{{"a", {true}}};
-  TestConstr::resolveScopedPortNames(ports, &resolver);
-  EXPECT_EQ(ports, (ConstrPropertiesMap{{"top/a", {true}}}));
+  TestConstr::resolveScopedPortNames(ports, &kinds);
   TestConstr::resolveScopedPortNames(ports, nullptr);
   EXPECT_EQ(ports, (ConstrPropertiesMap{{"top/a", {true}}}));
 
-  Names names{"all", "q"};
+  Names names{"x*", "q"};
   TestConstr::resolveNodeNames(names, &resolver);
-  EXPECT_EQ(names, (Names{"x", "y", "n:q"}));
   TestConstr::resolveNodeNames(names, nullptr);
-  EXPECT_EQ(names.size(), 3u);
+  EXPECT_EQ(names, (Names{"x0", "x1", "n:q"}));
 }
 
 TEST(BaseConstraintTest, OnlyALocationInAnotherSourceFileIsWritten)
@@ -178,19 +161,13 @@ TEST(BaseConstraintTest, OnlyALocationInAnotherSourceFileIsWritten)
   }
 }
 
-TEST(BaseConstraintTest, WritesListsWithPropertiesAndAddresses)
+TEST(BaseConstraintTest, WritesListsWithProperties)
 {
   JDocument doc(rapidjson::kObjectType);
   const ConstrPropertiesMap props{{"b", {true}}, {"c", {false}}};
   TestConstr::writeConstraintObjectsWithProperties({}, props, doc, doc, "none");
   TestConstr::writeConstraintObjectsWithProperties({"a", "b", "c"}, props, doc, doc, "list");
-  const Address address = spec_builders::address(1, 0, -1, 64);
-  JValue addressObject(rapidjson::kObjectType);
-  TestConstr::writeAddress(doc, addressObject, address);
-  TestConstr::writeAddress(doc, addressObject, Address());
   EXPECT_EQ(toText(doc), R"({"list":["a",{"b":{"issoft":true}},"c"]})");
-  EXPECT_EQ(toText(addressObject), R"({"column":1,"row":0,"offset":64})");
-  EXPECT_EQ(address.str(), "(1,0,-1,64)");
 }
 
 TEST(BaseConstraintTest, RenamePortsAndCopySrcInfo)
@@ -236,7 +213,6 @@ TEST(ConstrUtilsTest, FreeHelpers)
   EXPECT_EQ(names, (Names{"a", "b", "c"}));
   EXPECT_FALSE(contains(names, "C"));
   EXPECT_EQ(to_str(names), "a b c");
-  EXPECT_EQ(to_str({"", ""}), " ");
   EXPECT_FALSE(isValSet(-1));
   EXPECT_TRUE(isValSet(0));
   EXPECT_FALSE(isValSet(-0.5));
@@ -247,6 +223,101 @@ TEST(ConstrUtilsTest, FreeHelpers)
   Names unique{"stale", "entries", "here", "and", "more", "still"};
   getUniqueObjNames(constrs.begin(), constrs.end(), unique);
   EXPECT_EQ(unique, (Names{"b", "a", ""}));
+}
+
+class BaseNameResolverTest : public MessageLogTest {};
+
+TEST_F(BaseNameResolverTest, ListsDropAndReportWhatDoesNotResolve)
+{
+  const struct {
+    void (BaseNameResolver::*resolve)(Names&) const;
+    const char* oneUnresolved;
+    const char* severalUnresolved;
+  } cases[] = {
+      {&BaseNameResolver::resolveNodeNames, "@75-412@%s", "@75-413@%s"},
+      {&BaseNameResolver::resolvePortNames, "@75-414@%s", "@75-415@%s"},
+      {&BaseNameResolver::resolveNetNames, "@75-410@%s", "@75-411@%s"},
+      {&BaseNameResolver::resolveScopedNodeNames, "@75-418@%s", "@75-419@%s"},
+      {&BaseNameResolver::resolveScopedPortNames, "@75-420@%s", "@75-421@%s"},
+      {&BaseNameResolver::resolveScopedNetNames, "@75-416@%s", "@75-417@%s"},
+  };
+  const Resolver resolver("", {"?x", "?y", "?z"});
+  Resolver silent("", {"?x", "?y", "?z"});
+  silent.silence();
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.oneUnresolved);
+    ComMsgLog::clear();
+    Names one{"a", "?x", "b"}, several{"?x", "c", "?y", "?z"}, all{"d", "e"};
+    for (Names* names : {&one, &several, &all})
+      (resolver.*c.resolve)(*names);
+    EXPECT_EQ(one, (Names{"a", "b"}));
+    EXPECT_EQ(several, (Names{"c"}));
+    EXPECT_EQ(all, (Names{"d", "e"}));
+    (silent.*c.resolve)(one = {"?x", "?y"});
+    EXPECT_TRUE(one.empty());
+    expectSent({{c.oneUnresolved, ComMsgMgr::CriticalWarning, {"?x"}},
+                {c.severalUnresolved, ComMsgMgr::CriticalWarning, {"?x ?y ?z"}}});
+  }
+}
+
+TEST_F(BaseNameResolverTest, IdentityKeepsNamesButNotEmptyOnes)
+{
+  const BaseNameResolver identity;
+  Names names{"a", "b", "a"};
+  identity.resolveNodeNames(names);
+  EXPECT_EQ(names, (Names{"a", "b", "a"}));
+  expectSent({});
+
+  names = {"", "a"};
+  identity.resolveNodeNames(names);
+  names = {"", ""};
+  identity.resolveNodeNames(names);
+  Names pattern;
+  identity.resolveNetPattern("", pattern);
+  EXPECT_TRUE(pattern.empty());
+  expectSent({{"@75-412@%s", ComMsgMgr::CriticalWarning, {""}},
+              {"@75-413@%s", ComMsgMgr::CriticalWarning, {" "}}});
+}
+
+TEST_F(BaseNameResolverTest, PatternsExpandOnlyInThePlainLists)
+{
+  const Resolver resolver("");
+  Names plain{"bus*", "clk"}, scoped{"bus*"};
+  resolver.resolvePortNames(plain);
+  resolver.resolveScopedPortNames(scoped);
+  EXPECT_EQ(plain, (Names{"bus0", "bus1", "clk"}));
+  EXPECT_EQ(scoped, (Names{"bus*"}));
+  expectSent({});
+}
+
+TEST(PortRenamerTest, RenamesNamesListsAndProperties)
+{
+  const PortRenamer renamer({{"a", "b"}, {"b", "c"}, {"x", "y"}});
+  EXPECT_EQ(renamer.getNewPortName("a"), "b");
+  EXPECT_EQ(renamer.getNewPortName("q"), "q");
+
+  Names renamed{"untouched"};
+  renamer.getNewPortNames({"q", "r", "q"}, renamed);
+  EXPECT_EQ(renamed, (Names{"untouched"})) << "nothing changed, nothing given";
+  renamer.getNewPortNames({"q", "a", "b"}, renamed);
+  EXPECT_EQ(renamed, (Names{"q", "b", "c"}));
+
+  // In the order of the old names: "a" moves onto "b", then "b" onto "c".
+  ConstrPropertiesMap props{{"a", {true}}, {"b", {false}}, {"c", {false}}, {"q", {true}}};
+  renamer.renameConstrObjectProperties(props);
+  EXPECT_EQ(props, (ConstrPropertiesMap{{"c", {true}}, {"q", {true}}}));
+
+  // A move onto a name that the walk has passed is not moved again; a swap
+  // ends where the walk leaves it.
+  struct Walk { PortRenamer::RenameMap renames; ConstrPropertiesMap before, after; };
+  const Walk walks[] = {
+      {{{"a", "z"}, {"b", "a"}}, {{"b", {true}}}, {{"a", {true}}}},
+      {{{"a", "b"}, {"b", "a"}}, {{"a", {true}}, {"b", {false}}}, {{"a", {true}}}},
+  };
+  for (Walk walk : walks) {
+    PortRenamer::renameConstrObjectProperties(walk.renames, walk.before);
+    EXPECT_EQ(walk.before, walk.after);
+  }
 }
 
 }  // namespace

@@ -2,12 +2,15 @@
 
 #include "TestSupport.h"
 
+#include "Address.h"
 #include "BaseConstraint.h"
 #include "BaseNameResolver.h"
 #include "BaseVisitor.h"
 #include "ConstBaseVisitor.h"
 #include "ConstrHandler.h"
 #include "HEXAlgException.h"
+#include "MemSpec.h"
+#include "ShimSpec.h"
 
 #include <functional>
 #include <set>
@@ -86,14 +89,16 @@ inline std::string where(const SrcInfo& info)
          std::to_string(info.getLine()) + ":" + std::to_string(info.getColumn());
 }
 
-// Puts `prefix` before every node, port and net name, plain or scoped, and
-// resolves the names in `dropped` to nothing.
+// Puts `prefix` before every node, port and net name, plain or scoped,
+// resolves the names in `dropped` to nothing, and expands a node or port
+// pattern "x*" to "x0" and "x1".
 class Resolver : public BaseNameResolver {
 public:
   explicit Resolver(std::string prefix, std::set<std::string> dropped = {}, std::string scope = "")
       : prefix_(std::move(prefix)), dropped_(std::move(dropped)), scope_(std::move(scope))
   {
   }
+  void silence() { quiet = true; }
   std::string getScopeName() const override { return scope_; }
   std::string resolveNodeName(const std::string& name) const override { return resolve_(name); }
   std::string resolvePortName(const std::string& name) const override { return resolve_(name); }
@@ -101,11 +106,29 @@ public:
   std::string resolveScopedNodeName(const std::string& n) const override { return resolve_(n); }
   std::string resolveScopedPortName(const std::string& n) const override { return resolve_(n); }
   std::string resolveScopedNetName(const std::string& n) const override { return resolve_(n); }
+  void resolveNodePattern(const std::string& pattern, Names& out) const override
+  {
+    if (!expand_(pattern, out))
+      BaseNameResolver::resolveNodePattern(pattern, out);
+  }
+  void resolvePortPattern(const std::string& pattern, Names& out) const override
+  {
+    if (!expand_(pattern, out))
+      BaseNameResolver::resolvePortPattern(pattern, out);
+  }
 
 private:
   std::string resolve_(const std::string& name) const
   {
     return dropped_.count(name) ? "" : prefix_ + name;
+  }
+  static bool expand_(const std::string& pattern, Names& out)
+  {
+    if (pattern.empty() || pattern.back() != '*')
+      return false;
+    const std::string stem = pattern.substr(0, pattern.size() - 1);
+    out.insert(out.end(), {stem + "0", stem + "1"});
+    return true;
   }
 
   std::string prefix_;
@@ -167,5 +190,42 @@ private:
     onVisit();
   }
 };
+
+// Locations built in one expression: each builder applies one setter to a
+// copy of the given location (a fresh core location by default) and returns
+// it. Addresses too.
+inline PhysicalSpec at(int x, int y, PhysicalSpec spec = {}) { spec.setXY(x, y); return spec; }
+inline PhysicalSpec column(int x, PhysicalSpec spec = {}) { spec.setColumn(x); return spec; }
+inline PhysicalSpec row(int y, PhysicalSpec spec = {}) { spec.setRow(y); return spec; }
+inline PhysicalSpec named(const std::string& n, PhysicalSpec s = {}) { s.setName(n); return s; }
+inline PhysicalSpec index(int i, PhysicalSpec spec = {}) { spec.setIndex(i); return spec; }
+inline PhysicalSpec bank(int bankId, int offset, PhysicalSpec spec = {})
+{
+  spec.setBank(bankId);
+  spec.setOffset(offset);
+  return spec;
+}
+inline PhysicalSpec channelType(PhysicalSpec::ShimChannelType type, PhysicalSpec spec)
+{
+  spec.setShimChannelType(type);
+  return spec;
+}
+inline PhysicalSpec after(void (PhysicalSpec::*operation)(), PhysicalSpec spec)
+{
+  (spec.*operation)();
+  return spec;
+}
+inline PhysicalSpec shim(int x, int channel) { return index(channel, column(x, json::ShimSpec())); }
+
+// An address whose fields of -1 are unset.
+inline Address address(int column, int row, int bankId, int offset)
+{
+  Address made;
+  made.column.setIntVal(column);
+  made.row.setIntVal(row);
+  made.bankId.setIntVal(bankId);
+  made.offset.setIntVal(offset);
+  return made;
+}
 
 }  // namespace constr_support
