@@ -13,6 +13,8 @@
 #include "JTileValue.h"
 #include "JsonValueUtils.h"
 
+#include <boost/algorithm/string/replace.hpp>
+
 #include <climits>
 #include <memory>
 
@@ -23,7 +25,6 @@ using namespace qpe::constraints::json;
 using testing_support::MessageLogTest;
 
 constexpr auto critical = ComMsgMgr::CriticalWarning;
-constexpr int notSet = DefaultXYValues::XCoordinateNotSetValue;
 
 std::unique_ptr<JDocument> parsed(const char* text)
 {
@@ -33,45 +34,26 @@ std::unique_ptr<JDocument> parsed(const char* text)
   return doc;
 }
 
-// What a text parses to.
-struct PairCase {
-  std::string text;
-  int x;
-  int y;
-  std::string name;
-};
-
-void PrintTo(const PairCase& c, std::ostream* out)
+// "x,y" and ",name" when there is a name.
+std::string fields(const ComplexPair& pair)
 {
-  *out << "'" << c.text << "'";
+  return std::to_string(pair.x) + "," + std::to_string(pair.y) +
+         (pair.name.empty() ? "" : "," + pair.name);
 }
 
-void expectPair(const ComplexPair& pair, const PairCase& expected)
+class JsonTextTest : public MessageLogTest {};
+
+TEST_F(JsonTextTest, ToIntTakesOnlyTheExactDecimalText)
 {
-  EXPECT_EQ(pair.x, expected.x);
-  EXPECT_EQ(pair.y, expected.y);
-  EXPECT_EQ(pair.name, expected.name);
+  const std::pair<const char*, int> cases[] = {
+      {"  12\t", 12}, {"\v\f7\r\n", 7}, {"-3", -3}, {"0", 0}, {"2147483647", INT_MAX},
+      {"-2147483648", INT_MIN}, {"", -1}, {"   ", -1}, {"2147483648", -1}, {"+5", -1},
+      {"007", -1}, {"5x", -1}, {"1.0", -1}, {"-0", -1}, {"1 2", -1}, {"x", -1}};
+  for (const auto& [text, value] : cases)
+    EXPECT_EQ(toInt(text), value) << "'" << text << "'";
 }
 
-class ToIntTest : public testing::TestWithParam<std::pair<const char*, int>> {};
-
-TEST_P(ToIntTest, OnlyTheExactDecimalTextCounts)
-{
-  EXPECT_EQ(toInt(GetParam().first), GetParam().second);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ToIntTest,
-    testing::Values(std::pair{"  12\t", 12}, std::pair{"\v\f7\r\n", 7}, std::pair{"-3", -3},
-                    std::pair{"0", 0}, std::pair{"2147483647", INT_MAX},
-                    std::pair{"-2147483648", INT_MIN}, std::pair{"", -1}, std::pair{"   ", -1},
-                    std::pair{"2147483648", -1}, std::pair{"+5", -1}, std::pair{"007", -1},
-                    std::pair{"5x", -1}, std::pair{"1.0", -1}, std::pair{"-0", -1},
-                    std::pair{"1 2", -1}, std::pair{"x", -1}));
-
-class TextSyntaxTest : public MessageLogTest {};
-
-TEST_F(TextSyntaxTest, StripParensReportsALoneParenthesisAndSplitCutsAtTheFirstSeparator)
+TEST_F(JsonTextTest, StripParensReportsALoneParenthesisAndSplitCutsAtTheFirstSeparator)
 {
   const std::pair<const char*, const char*> cases[] = {
       {"(", "("}, {")", ")"}, {"(3)", "3"}, {"()", ""}, {"ab", "ab"}, {"", ""},
@@ -91,90 +73,40 @@ TEST_F(TextSyntaxTest, StripParensReportsALoneParenthesisAndSplitCutsAtTheFirstS
   EXPECT_EQ(left + "|" + right, "a|b,c");
 }
 
-class ComplexPairTest : public testing::TestWithParam<PairCase> {};
-
-TEST_P(ComplexPairTest, SplitsIntoNumbersOrAName)
+// A text without a colon is a range of its first pair alone; only an empty
+// first half is reported.
+TEST_F(JsonTextTest, RangesSplitAtTheFirstColonAndPairsIntoNumbersOrAName)
 {
-  const ComplexPair pair(GetParam().text);
-  EXPECT_EQ(pair.text, GetParam().text);
-  expectPair(pair, GetParam());
+  const std::pair<const char*, const char*> cases[] = {
+      {"(3,4)", "3,4 | -1,-1"},         {"3", "3,-1 | -1,-1"},
+      {"(3)", "3,-1 | -1,-1"},          {"tile_a", "-1,-1,tile_a | -1,-1"},
+      {"(tile_a)", "-1,-1,tile_a | -1,-1"}, {"(3,z)", "3,-1 | -1,-1"},
+      {",4", "-1,-1,,4 | -1,-1"},       {"-1", "-1,-1,-1 | -1,-1"},
+      {"(-2, 5 )", "-2,5 | -1,-1"},     {"", "-1,-1 | -1,-1"},
+      {":5", "-1,-1 | 5,-1"},           {"5:", "5,-1 | -1,-1"},
+      {":", "-1,-1,: | -1,-1"},         {"(1,2):(3,4)", "1,2 | 3,4"},
+      {"1:5", "1,-1 | 5,-1"},           {"tile_a:tile_b", "-1,-1,tile_a | -1,-1,tile_b"},
+      {"a:b:c", "-1,-1,a | -1,-1,b:c"}};
+  for (const auto& [text, pairs] : cases) {
+    const ComplexRange range(text);
+    EXPECT_EQ(range.text, text);
+    EXPECT_EQ(fields(range.first) + " | " + fields(range.second), pairs) << "'" << text << "'";
+  }
+  expectSent({{"@75-647@%s", critical, {":5"}}});
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ComplexPairTest,
-    testing::Values(PairCase{"(3,4)", 3, 4, ""}, PairCase{"3", 3, -1, ""},
-                    PairCase{"(3)", 3, -1, ""}, PairCase{"tile_a", -1, -1, "tile_a"},
-                    PairCase{"(tile_a)", -1, -1, "tile_a"}, PairCase{"(3,z)", 3, -1, ""},
-                    PairCase{",4", -1, -1, ",4"}, PairCase{"", -1, -1, ""},
-                    PairCase{"-1", -1, -1, "-1"}, PairCase{"(-2, 5 )", -2, 5, ""}));
-
-class ComplexPairWithXYTest : public testing::TestWithParam<PairCase> {};
-
-TEST_P(ComplexPairWithXYTest, ReadsXBeforeYOnly)
+TEST_F(JsonTextTest, PairsWithXYReadXBeforeYOnly)
 {
-  expectPair(ComplexPairWithXY(GetParam().text), GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ComplexPairWithXYTest,
-    testing::Values(PairCase{"(X=1,Y=2)", 1, 2, ""}, PairCase{"(X=-1,Y=0)", -1, 0, ""},
-                    PairCase{"(Y=1,X=2)", notSet, notSet, ""},
-                    PairCase{"(1,2)", notSet, notSet, ""}, PairCase{"X=3", 3, notSet, ""},
-                    PairCase{"Y=4", notSet, 4, ""}, PairCase{"X3", -1, notSet, ""},
-                    PairCase{"(X=,Y=4)", notSet, 4, ""}, PairCase{"", notSet, notSet, ""}));
-
-struct RangeCase {
-  std::string text;
-  PairCase first;
-  PairCase second;
-  bool reported;
-};
-
-void PrintTo(const RangeCase& c, std::ostream* out)
-{
-  *out << "'" << c.text << "'";
-}
-
-class ComplexRangeTest : public MessageLogTest, public testing::WithParamInterface<RangeCase> {};
-
-TEST_P(ComplexRangeTest, SplitsAtTheFirstColon)
-{
-  const RangeCase& c = GetParam();
-  const ComplexRange range(c.text);
-  EXPECT_EQ(range.text, c.text);
-  expectPair(range.first, c.first);
-  expectPair(range.second, c.second);
-  if (c.reported)
-    expectSent({{"@75-647@%s", critical, {c.text}}});
-  else
-    expectSent({});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ComplexRangeTest,
-    testing::Values(RangeCase{":5", {"", -1, -1, ""}, {"", 5, -1, ""}, true},
-                    RangeCase{"5:", {"", 5, -1, ""}, {"", -1, -1, ""}, false},
-                    RangeCase{":", {"", -1, -1, ":"}, {"", -1, -1, ""}, false},
-                    RangeCase{"(1,2):(3,4)", {"", 1, 2, ""}, {"", 3, 4, ""}, false},
-                    RangeCase{"tile_a:tile_b", {"", -1, -1, "tile_a"}, {"", -1, -1, "tile_b"},
-                              false},
-                    RangeCase{"1:5", {"", 1, -1, ""}, {"", 5, -1, ""}, false},
-                    RangeCase{"a:b:c", {"", -1, -1, "a"}, {"", -1, -1, "b:c"}, false},
-                    RangeCase{"(2,3)", {"", 2, 3, ""}, {"", -1, -1, ""}, false},
-                    RangeCase{"", {"", -1, -1, ""}, {"", -1, -1, ""}, false}));
-
-// One JSON value in each of the three groups: the text of both ends through
-// PhysicalSpec::str(), or "-" where the value is not valid.
-struct LocationCase {
-  const char* json;
-  std::string tile;
-  std::string mem;
-  std::string shim;
-};
-
-void PrintTo(const LocationCase& c, std::ostream* out)
-{
-  *out << c.json;
+  constexpr int unset = DefaultXYValues::XCoordinateNotSetValue;
+  const struct {
+    const char* text;
+    int x, y;
+  } cases[] = {{"(X=1,Y=2)", 1, 2},     {"(X=-1,Y=0)", -1, 0}, {"(Y=1,X=2)", unset, unset},
+               {"(1,2)", unset, unset}, {"X=3", 3, unset},     {"Y=4", unset, 4},
+               {"X3", -1, unset},       {"(X=,Y=4)", unset, 4}, {"", unset, unset}};
+  for (const auto& c : cases)
+    EXPECT_EQ(fields(ComplexPairWithXY(c.text)), std::to_string(c.x) + "," + std::to_string(c.y))
+        << c.text;
 }
 
 template <typename View>
@@ -187,40 +119,35 @@ std::string parsedLocation(const JValue& value)
   return view.getFirst().str() + " " + view.getSecond().str();
 }
 
-class LocationValueTest : public MessageLogTest,
-                          public testing::WithParamInterface<LocationCase> {};
-
-TEST_P(LocationValueTest, ParsesTheNewAndTheOldSyntax)
+// One JSON value in each of the three groups: the text of both ends through
+// PhysicalSpec::str(), or "-" where the value is not valid. A mem and a shim
+// value read as a tile value does unless the case says otherwise.
+TEST_F(JsonTextTest, LocationValuesParseTheNewAndTheOldSyntax)
 {
-  const LocationCase& c = GetParam();
-  const auto doc = parsed(c.json);
-  EXPECT_EQ(parsedLocation<JTileValue>(*doc), c.tile);
-  EXPECT_EQ(parsedLocation<JMemValue>(*doc), c.mem);
-  EXPECT_EQ(parsedLocation<JShimValue>(*doc), c.shim);
+  const struct {
+    const char* json;
+    std::string tile;
+    std::string memOrShim = tile;
+  } cases[] = {
+      {"[3, 4]", "tile=(3,4) tile=(-1,-1)"},
+      {R"(["a", 4])", "tile=(a) tile=(-1,-1)", "tile=(a) tile=(4,-1)"},
+      {"[[1, 2], [3, 4]]", "tile=(1,2) tile=(3,4)"},
+      {"3", "tile=(3,-1) tile=(-1,-1)"},
+      {R"j("(1,2):(3,4)")j", "tile=(1,2) tile=(3,4)"},
+      {R"("tile_a:tile_b")", "tile=(tile_a) tile=(tile_b)"},
+      {R"("1:5")", "tile=(1,-1) tile=(5,-1)"},
+      {"[3, 4, 5]", "-"}, {"[true, [3, 4]]", "-"}, {R"("")", "-"}, {R"(":5")", "-"},
+      {"1.5", "-"}, {"{}", "-"}, {"null", "-"}};
+  for (const auto& c : cases) {
+    const auto doc = parsed(c.json);
+    const auto as = [&](const char* kind) {
+      return boost::replace_all_copy(c.memOrShim, "tile=", std::string(kind) + "=");
+    };
+    EXPECT_EQ(parsedLocation<JTileValue>(*doc), c.tile) << c.json;
+    EXPECT_EQ(parsedLocation<JMemValue>(*doc), as("mem")) << c.json;
+    EXPECT_EQ(parsedLocation<JShimValue>(*doc), as("shim")) << c.json;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Values, LocationValueTest,
-    testing::Values(
-        LocationCase{"[3, 4]", "tile=(3,4) tile=(-1,-1)", "mem=(3,4) mem=(-1,-1)",
-                     "shim=(3,4) shim=(-1,-1)"},
-        LocationCase{"[3, 4, 5]", "-", "-", "-"},
-        LocationCase{R"(["a", 4])", "tile=(a) tile=(-1,-1)", "mem=(a) mem=(4,-1)",
-                     "shim=(a) shim=(4,-1)"},
-        LocationCase{"[[1, 2], [3, 4]]", "tile=(1,2) tile=(3,4)", "mem=(1,2) mem=(3,4)",
-                     "shim=(1,2) shim=(3,4)"},
-        LocationCase{"[true, [3, 4]]", "-", "-", "-"},
-        LocationCase{"3", "tile=(3,-1) tile=(-1,-1)", "mem=(3,-1) mem=(-1,-1)",
-                     "shim=(3,-1) shim=(-1,-1)"},
-        LocationCase{R"j("(1,2):(3,4)")j", "tile=(1,2) tile=(3,4)", "mem=(1,2) mem=(3,4)",
-                     "shim=(1,2) shim=(3,4)"},
-        LocationCase{R"("tile_a:tile_b")", "tile=(tile_a) tile=(tile_b)",
-                     "mem=(tile_a) mem=(tile_b)", "shim=(tile_a) shim=(tile_b)"},
-        LocationCase{R"("1:5")", "tile=(1,-1) tile=(5,-1)", "mem=(1,-1) mem=(5,-1)",
-                     "shim=(1,-1) shim=(5,-1)"},
-        LocationCase{R"("")", "-", "-", "-"}, LocationCase{R"(":5")", "-", "-", "-"},
-        LocationCase{"1.5", "-", "-", "-"},
-        LocationCase{"{}", "-", "-", "-"}, LocationCase{"null", "-", "-", "-"}));
 
 TEST(JsonViewTest, MissingOrMistypedValuesReadAsTheSharedNull)
 {
