@@ -52,7 +52,7 @@ TEST_F(ConstrReaderTest, AttributeValuesByJsonType)
                               "label": "x", "big": 3000000000, "bigger": 3000000000.5,
                               "nothing": null, "list": [1], "object": {"a": 1}}},
     "PortConstraints": {"p": {"fifo_depth": -2}},
-    "NetConstraints": {"e": {"Weight": 1.0}}
+    "NetConstraints": {"e": {"Weight": 1.0}}, "GlobalConstraints": {}
   })"));
   expectSent({});
   const AttrConstr* flag = handler.getAttrConstr("n", "flag");
@@ -70,16 +70,6 @@ TEST_F(ConstrReaderTest, AttributeValuesByJsonType)
   EXPECT_EQ(handler.getAttrConstr("e", "weight")->getAttrType(), HATAttrTypes::AttrDouble);
   EXPECT_EQ(handler.getAttrConstr("e", "weight")->getConstrName(), "qpe.Weight");
   EXPECT_EQ(handler.size(), 8u);
-}
-
-TEST_F(ConstrReaderTest, AnEmptyRootAndEmptySectionsGiveNothing)
-{
-  for (const char* text : {"{}", R"({"NodeConstraints": {}, "PortConstraints": {},
-                                     "NetConstraints": {}, "GlobalConstraints": {}})"}) {
-    handler.read(put(text));
-    EXPECT_TRUE(handler.empty()) << text;
-  }
-  expectSent({});
 }
 
 TEST_F(ConstrReaderTest, KeysGetThePlaceOfTheKeyInTheFileOrTheirOwnSourceLocation)
@@ -109,6 +99,8 @@ TEST_F(ConstrReaderTest, KeysGetThePlaceOfTheKeyInTheFileOrTheirOwnSourceLocatio
 })"),
               true);
   const std::string path = reader.getJsonPath();
+  EXPECT_TRUE(boost::filesystem::path(path).is_relative()) << "to the current directory";
+  EXPECT_TRUE(boost::filesystem::equivalent(path, file));
   EXPECT_EQ(location("n", "a"), "1 design.cpp 12:3");
   EXPECT_EQ(location("n", "b"), "0 " + path + " 6:7") << "not right behind its key";
   EXPECT_EQ(location("n", "c"), "0 " + path + " 7:7");
@@ -127,19 +119,6 @@ TEST_F(ConstrReaderTest, AKeyThatIsNotFoundByTextGetsLineZero)
   ConstrReader reader(handler, renaming);
   reader.read(in, put(in.str()), true);
   EXPECT_EQ(location("top/n", "k"), "0 " + reader.getJsonPath() + " 0:0");
-}
-
-TEST_F(ConstrReaderTest, TheRecordedPathIsRelativeToTheCurrentDirectory)
-{
-  ConstrReader reader(handler);
-  reader.read(put("{}"), true);
-  const std::string recorded = reader.getJsonPath();
-  EXPECT_TRUE(boost::filesystem::path(recorded).is_relative()) << recorded;
-  EXPECT_TRUE(boost::filesystem::equivalent(recorded, file));
-
-  std::istringstream in("{}");
-  reader.read(in, "relative/name.json", false);
-  EXPECT_EQ(reader.getJsonPath(), "relative/name.json");
 }
 
 TEST_F(ConstrReaderTest, LocationsWithoutAFileToScanAreReportedPerKey)
@@ -175,42 +154,29 @@ TEST_F(ConstrReaderTest, FifoRecordsAreReadAndTheirNamesNotResolved)
   EXPECT_TRUE(handler.empty()) << "records are no constraints";
 }
 
-struct UnresolvedCase {
-  const char* section;
-  std::string scope;
-  ExpectedMsg expected;
-};
-
-void PrintTo(const UnresolvedCase& c, std::ostream* out)
+TEST_F(ConstrReaderTest, AnUnresolvedObjectIsSkippedAndTheReadGoesOn)
 {
-  *out << c.section << (c.scope.empty() ? "" : " with scope");
+  const struct {
+    std::string section;
+    std::string scope;
+    ExpectedMsg expected;
+  } cases[] = {
+      {"NodeConstraints", "", {"@75-407@%s", Mask::CriticalWarning, {"gone"}}},
+      {"NodeConstraints", "top", {"@75-407@%s", Mask::CriticalWarning, {"gone"}}},
+      {"PortConstraints", "", {"@75-498@%s", Mask::CriticalWarning, {"gone"}}},
+      {"PortConstraints", "top", {"@75-497@%s%s", Mask::CriticalWarning, {"gone", "top"}}},
+      {"NetConstraints", "", {"@75-408@%s", Mask::CriticalWarning, {"gone"}}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.section + " " + c.scope);
+    ComMsgLog::clear();
+    ConstrHandler store;
+    std::istringstream in(R"({")" + c.section + R"(": {"gone": {"a": 1}, "kept": {"a": 2}}})");
+    store.read(in, put(in.str()), Resolver("", {"gone"}, c.scope));
+    expectSent({c.expected});
+    EXPECT_EQ(store.size(), 1u);
+    EXPECT_EQ(store.getAttrConstr("kept", "a")->getIntVal(), 2);
+  }
 }
-
-class ConstrReaderUnresolvedTest : public ConstrReaderTest,
-                                   public ::testing::WithParamInterface<UnresolvedCase> {};
-
-TEST_P(ConstrReaderUnresolvedTest, AnUnresolvedObjectIsSkippedAndTheReadGoesOn)
-{
-  const UnresolvedCase& c = GetParam();
-  const Resolver resolver("", {"gone"}, c.scope);
-  std::istringstream in(std::string(R"({")") + c.section +
-                        R"(": {"gone": {"a": 1}, "kept": {"a": 2}}})");
-  handler.read(in, put(in.str()), resolver);
-  expectSent({c.expected});
-  EXPECT_EQ(handler.size(), 1u);
-  EXPECT_EQ(handler.getAttrConstr("kept", "a")->getIntVal(), 2);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Sections, ConstrReaderUnresolvedTest,
-    ::testing::Values(
-        UnresolvedCase{"NodeConstraints", "", {"@75-407@%s", Mask::CriticalWarning, {"gone"}}},
-        UnresolvedCase{"NodeConstraints", "top", {"@75-407@%s", Mask::CriticalWarning, {"gone"}}},
-        UnresolvedCase{"PortConstraints", "", {"@75-498@%s", Mask::CriticalWarning, {"gone"}}},
-        UnresolvedCase{"PortConstraints",
-                       "top",
-                       {"@75-497@%s%s", Mask::CriticalWarning, {"gone", "top"}}},
-        UnresolvedCase{"NetConstraints", "", {"@75-408@%s", Mask::CriticalWarning, {"gone"}}}));
 
 const char* const toolFile = R"({"isToolGenerated": true, "isSoft": true,
                                  "NodeConstraints": {"n": {"a": 1}}})";
@@ -328,54 +294,54 @@ TEST_P(ConstrReaderFailureTest, ThrowsTheMessageAndLeavesTheHandlerAsItWas)
 const char* const valid = R"({"NodeConstraints": {"n": {"a": 1}}})";
 const std::string violation = "@75-571@%s%s%s%s";
 
-INSTANTIATE_TEST_SUITE_P(
-    Failures, ConstrReaderFailureTest,
-    ::testing::Values(
-        FailureCase{"NoSchema", valid, Schema::hidden, true, "@75-391@", {}},
-        FailureCase{"MissingSchema", valid, Schema::missing, false, "@90-5@%s%s",
-                    {"$S", "file does not exist: $S"}},
-        FailureCase{"MalformedSchema", valid, Schema::malformed, true, "@90-4@%s%s",
-                    {"$S", "Invalid value. (offset 9)"}},
-        FailureCase{"MissingFile", nullptr, Schema::shipped, true, "@90-1@%s", {"$F"}},
-        FailureCase{"SyntaxError", R"({"NodeConstraints": {"n": {"a": 1,}}})", Schema::shipped,
-                    false, "@90-2@%s%s", {"$F", "Missing a name for object member. (offset 34)"}},
-        FailureCase{"RootKeyType", R"({"NodeConstraints": {"n": {"a": 1}}, "isSoft": "yes"})",
-                    Schema::shipped, true, violation,
-                    {"$F", "/properties/isSoft", "type", "/isSoft"}},
-        FailureCase{"SectionNotAnObject", R"({"NodeConstraints": []})", Schema::shipped, true,
-                    violation, {"$F", "/properties/NodeConstraints", "type", "/NodeConstraints"}},
-        FailureCase{"MemNotAnArray", R"({"NodeConstraints": {"n": {"mem": {}}}})",
-                    Schema::shipped, true, violation,
-                    {"$F", "/definitions/addresses", "type", "/NodeConstraints/n/mem"}},
-        FailureCase{"SrcInfoLineNegative",
-                    R"({"NodeConstraints": {"n": {"k_src_info": {"line": -1}}}})",
-                    Schema::shipped, true, violation,
-                    {"$F", "", "patternProperties", "/NodeConstraints/n/k_src_info"}},
-        FailureCase{"ListElementNotANameOrObject",
-                    R"({"NodeConstraints": {"n": {"colocated_nodes": [1]}}})", Schema::shipped,
-                    true, violation,
-                    {"$F", "/definitions/listWithProperties/items", "type",
-                     "/NodeConstraints/n/colocated_nodes/0"}},
-        FailureCase{"PortLocChannelNotAnInteger",
-                    R"({"PortConstraints": {"p": {"port_loc": {"channel": "2"}}}})",
-                    Schema::shipped, true, violation,
-                    {"$F", "/definitions/portLoc/properties/channel", "type",
-                     "/PortConstraints/p/port_loc/channel"}},
-        FailureCase{"GroupLocationNotALocation",
-                    R"({"GlobalConstraints": {"areaGroup": {"name": "a"},
-                                              "areaGroup": {"tileGroup": [true]}}})",
-                    Schema::shipped, true, violation,
-                    {"$F", "/definitions/locations/items", "type",
-                     "/GlobalConstraints/areaGroup/tileGroup/0"}}),
-    [](const auto& info) { return info.param.name; });
+const FailureCase failures[] = {
+    {"NoSchema", valid, Schema::hidden, true, "@75-391@", {}},
+    {"MissingSchema", valid, Schema::missing, false, "@90-5@%s%s",
+     {"$S", "file does not exist: $S"}},
+    {"MalformedSchema", valid, Schema::malformed, true, "@90-4@%s%s",
+     {"$S", "Invalid value. (offset 9)"}},
+    {"MissingFile", nullptr, Schema::shipped, true, "@90-1@%s", {"$F"}},
+    {"SyntaxError", R"({"NodeConstraints": {"n": {"a": 1,}}})", Schema::shipped, false,
+     "@90-2@%s%s", {"$F", "Missing a name for object member. (offset 34)"}},
+    {"RootKeyType", R"({"isSoft": "yes"})", Schema::shipped, true, violation,
+     {"$F", "/properties/isSoft", "type", "/isSoft"}},
+    {"SectionNotAnObject", R"({"NodeConstraints": []})", Schema::shipped, true, violation,
+     {"$F", "/properties/NodeConstraints", "type", "/NodeConstraints"}},
+    {"MemNotAnArray", R"({"NodeConstraints": {"n": {"mem": {}}}})", Schema::shipped, true,
+     violation, {"$F", "/definitions/addresses", "type", "/NodeConstraints/n/mem"}},
+    {"SrcInfoLineNegative", R"({"NodeConstraints": {"n": {"k_src_info": {"line": -1}}}})",
+     Schema::shipped, true, violation,
+     {"$F", "", "patternProperties", "/NodeConstraints/n/k_src_info"}},
+    {"ListElementNotANameOrObject", R"({"NodeConstraints": {"n": {"colocated_nodes": [1]}}})",
+     Schema::shipped, true, violation,
+     {"$F", "/definitions/listWithProperties/items", "type",
+      "/NodeConstraints/n/colocated_nodes/0"}},
+    {"PortLocChannelNotAnInteger", R"({"PortConstraints": {"p": {"port_loc": {"channel": "2"}}}})",
+     Schema::shipped, true, violation,
+     {"$F", "/definitions/portLoc/properties/channel", "type",
+      "/PortConstraints/p/port_loc/channel"}},
+    {"GroupLocationNotALocation",
+     R"({"GlobalConstraints": {"areaGroup": {"name": "a"}, "areaGroup": {"tileGroup": [true]}}})",
+     Schema::shipped, true, violation,
+     {"$F", "/definitions/locations/items", "type", "/GlobalConstraints/areaGroup/tileGroup/0"}}};
 
-TEST(SchemaFileTest, TheShippedSchemaIsFoundWithoutSettingAnything)
+INSTANTIATE_TEST_SUITE_P(Failures, ConstrReaderFailureTest, ::testing::ValuesIn(failures),
+                         [](const auto& info) { return info.param.name; });
+
+// Without $KVR_ROOT the shipped schema is found and there is no local one.
+TEST(SchemaFileTest, TheShippedSchemaAndTheLocalOne)
 {
+  {
+    const ScopedEnv root("KVR_ROOT", std::string("/src/tree"));
+    EXPECT_EQ(SchemaFile::getLocalConstraintsSchema(),
+              "/src/tree/src/shared/ipconfig/readwrite/zxcore/src/main/resources/data/" +
+                  schemaName);
+  }
   const ScopedEnv noRoot("KVR_ROOT", std::nullopt);
-  const std::string found = SchemaFile::getConstraintsSchema();
-  EXPECT_TRUE(boost::filesystem::equivalent(found,
+  EXPECT_TRUE(boost::filesystem::equivalent(SchemaFile::getConstraintsSchema(),
                                             IPCONFIG_RW_DATA_SOURCE_DIR "/" + schemaName));
   EXPECT_EQ(SchemaFile::getConstraintsSchemaOld(), "");
+  EXPECT_THROW(SchemaFile::getLocalConstraintsSchema(), std::logic_error);
 }
 
 TEST(SchemaFileTest, TheNewNameWinsThenTheOldPathThenNothing)
@@ -395,18 +361,6 @@ TEST(SchemaFileTest, TheNewNameWinsThenTheOldPathThenNothing)
   boost::filesystem::remove(old);
   tree.hide(oldSchemaName);
   EXPECT_EQ(SchemaFile::getConstraintsSchema(), "");
-}
-
-TEST(SchemaFileTest, TheLocalSchemaLiesInTheSourceTreeAtKvrRoot)
-{
-  {
-    const ScopedEnv root("KVR_ROOT", std::string("/src/tree"));
-    EXPECT_EQ(SchemaFile::getLocalConstraintsSchema(),
-              "/src/tree/src/shared/ipconfig/readwrite/zxcore/src/main/resources/data/" +
-                  schemaName);
-  }
-  const ScopedEnv noRoot("KVR_ROOT", std::nullopt);
-  EXPECT_THROW(SchemaFile::getLocalConstraintsSchema(), std::logic_error);
 }
 
 }  // namespace
