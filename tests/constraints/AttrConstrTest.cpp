@@ -43,76 +43,42 @@ TEST(AttrConstrTest, CanonicalNames)
   EXPECT_EQ(old, "foo");
 }
 
-struct WriteCase {
-  const char* name;
-  AttrConstr::AttrType type;
-  std::function<void(AttrConstr&)> set;
-  std::string json;
-};
-
-void PrintTo(const WriteCase& c, std::ostream* out)
-{
-  *out << c.name << " -> " << c.json;
-}
-
-class AttrWriteTest : public testing::TestWithParam<WriteCase> {};
-
 // Each attribute carries a location in another source file, which goes with
-// its value or not at all.
-TEST_P(AttrWriteTest, WritesTheKeyWithoutPrefixes)
+// its value or not at all; the text shows the value whether written or not.
+TEST(AttrConstrTest, WritesTheKeyWithoutPrefixesAndPrintsTheValueByType)
 {
-  const WriteCase& c = GetParam();
-  AttrConstr attr(BaseConstraint::NODE, "n", c.type, AttrConstr::makeCanonicalAttrName(c.name));
-  attr.getSrcInfo().set(SrcInfo::SourceFile, "a.cc", 3, 4);
-  c.set(attr);
-  JDocument doc;
-  JValue object(rapidjson::kObjectType);
-  attr.write(doc, object, nullptr);
-  EXPECT_EQ(toText(object), c.json);
-}
-
-const std::string srcInfo = R"({"file":"a.cc","line":3,"column":4})";
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, AttrWriteTest,
-    testing::Values(
-        WriteCase{"qpe.foo", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-5); },
-                  R"({"foo":-5,"foo_src_info":)" + srcInfo + "}"},
-        WriteCase{"margin", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-1); }, "{}"},
-        WriteCase{"margin", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-5); }, "{}"},
-        WriteCase{"utilization", HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(-0.5); },
-                  "{}"},
-        WriteCase{"runtime", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(5); },
-                  R"({"runtime":5,"runtime_src_info":)" + srcInfo + "}"},
-        WriteCase{"Utilization", HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(0.5); },
-                  R"({"utilization":0.5,"utilization_src_info":)" + srcInfo + "}"},
-        WriteCase{"zx.Foo", HATAttrTypes::AttrBool, [](AttrConstr& a) { a.setVal(true); },
-                  R"({"foo":true,"foo_src_info":)" + srcInfo + "}"},
-        WriteCase{"flag", HATAttrTypes::AttrBool, [](AttrConstr& a) { a.setVal(false); }, "{}"},
-        WriteCase{"Qpe.Label", HATAttrTypes::AttrString, [](AttrConstr& a) { a.setVal("x y"); },
-                  R"({"label":"x y","label_src_info":)" + srcInfo + "}"},
-        WriteCase{"list", HATAttrTypes::AttrStringList, [](AttrConstr&) {}, "{}"}));
-
-TEST(AttrConstrTest, PrintsTheValueByType)
-{
-  struct Case {
+  const std::string at = R"(_src_info":{"file":"a.cc","line":3,"column":4}})";
+  const struct {
+    const char* name;
     AttrConstr::AttrType type;
     std::function<void(AttrConstr&)> set;
-    const char* text;
-  };
-  const Case cases[] = {
-      {HATAttrTypes::AttrBool, [](AttrConstr& a) { a.setVal(true); }, " attr(obj)=(true)"},
-      {HATAttrTypes::AttrBool, [](AttrConstr&) {}, " attr(obj)=(false)"},
-      {HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-7); }, " attr(obj)=(-7)"},
-      {HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(0.25); }, " attr(obj)=(0.25)"},
-      {HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(1e10); }, " attr(obj)=(1e+10)"},
-      {HATAttrTypes::AttrString, [](AttrConstr& a) { a.setVal("t"); }, " attr(obj)=(t)"},
-      {HATAttrTypes::AttrStringList, [](AttrConstr&) {}, " attr(obj)="},
-  };
-  for (const Case& c : cases) {
-    AttrConstr attr(BaseConstraint::NET, "obj", c.type, "qpe.name");
+    std::string json;
+    const char* str;
+  } cases[] = {
+      {"qpe.foo", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-5); },
+       R"({"foo":-5,"foo)" + at, " attr(n)=(-5)"},
+      {"margin", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-1); }, "{}", " attr(n)=(-1)"},
+      {"margin", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(-5); }, "{}", " attr(n)=(-5)"},
+      {"utilization", HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(-0.5); }, "{}",
+       " attr(n)=(-0.5)"},
+      {"runtime", HATAttrTypes::AttrInt, [](AttrConstr& a) { a.setVal(5); },
+       R"({"runtime":5,"runtime)" + at, " attr(n)=(5)"},
+      {"Utilization", HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(0.25); },
+       R"({"utilization":0.25,"utilization)" + at, " attr(n)=(0.25)"},
+      {"ratio", HATAttrTypes::AttrDouble, [](AttrConstr& a) { a.setVal(1e10); },
+       R"({"ratio":10000000000.0,"ratio)" + at, " attr(n)=(1e+10)"},
+      {"zx.Foo", HATAttrTypes::AttrBool, [](AttrConstr& a) { a.setVal(true); },
+       R"({"foo":true,"foo)" + at, " attr(n)=(true)"},
+      {"flag", HATAttrTypes::AttrBool, [](AttrConstr&) {}, "{}", " attr(n)=(false)"},
+      {"Qpe.Label", HATAttrTypes::AttrString, [](AttrConstr& a) { a.setVal("x y"); },
+       R"({"label":"x y","label)" + at, " attr(n)=(x y)"},
+      {"list", HATAttrTypes::AttrStringList, [](AttrConstr&) {}, "{}", " attr(n)="}};
+  for (const auto& c : cases) {
+    AttrConstr attr(BaseConstraint::NODE, "n", c.type, AttrConstr::makeCanonicalAttrName(c.name));
+    attr.getSrcInfo().set(SrcInfo::SourceFile, "a.cc", 3, 4);
     c.set(attr);
-    EXPECT_EQ(attr.str(), c.text);
+    EXPECT_EQ(written(attr), c.json) << c.name;
+    EXPECT_EQ(attr.str(), c.str) << c.name;
   }
 }
 
