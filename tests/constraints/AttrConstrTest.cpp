@@ -100,30 +100,26 @@ AttrValue listOf(const Names& values)
 // The host's flag byte holds exactly the 0x20 bit, set when value == default.
 TEST(AttrValueTest, DefaultBitIsSetExactlyWhenTheValueIsTheDefault)
 {
+  namespace Types = HATAttrTypes;
   const struct {
     const char* name;
     AttrValue value;
     bool isDefault;
   } cases[] = {
-      {"newBool", AttrValue(HATAttrTypes::AttrBool), true},
-      {"newInt", AttrValue(HATAttrTypes::AttrInt), true},
-      {"newDouble", AttrValue(HATAttrTypes::AttrDouble), true},
-      {"newString", AttrValue(HATAttrTypes::AttrString), true},
-      {"newList", AttrValue(HATAttrTypes::AttrStringList), true},
+      {"newBool", AttrValue(Types::AttrBool), true}, {"newInt", AttrValue(Types::AttrInt), true},
+      {"newDouble", AttrValue(Types::AttrDouble), true},
+      {"newString", AttrValue(Types::AttrString), true},
+      {"newList", AttrValue(Types::AttrStringList), true},
       {"intIsDefault", AttrValue(-1, -1), true},
       {"intZeroDefaultZero", AttrValue(0, 0), true},
-      {"intMinusOneDefaultZero", AttrValue(-1, 0), false},
-      {"intFive", AttrValue(5, -1), false},
-      {"stringEmpty", AttrValue("", ""), true},
-      {"stringIsDefault", AttrValue("x", "x"), true},
+      {"intMinusOneDefaultZero", AttrValue(-1, 0), false}, {"intFive", AttrValue(5, -1), false},
+      {"stringEmpty", AttrValue("", ""), true}, {"stringIsDefault", AttrValue("x", "x"), true},
       {"stringEmptyDefaultX", AttrValue("", "x"), false},
-      {"boolTrue", after(AttrValue(HATAttrTypes::AttrBool), [](auto& a) { a.setBoolVal(true); }),
-       false},
-      {"boolFalse", after(AttrValue(HATAttrTypes::AttrBool), [](auto& a) { a.setBoolVal(false); }),
+      {"boolTrue", after(AttrValue(Types::AttrBool), [](auto& a) { a.setBoolVal(true); }), false},
+      {"boolFalse", after(AttrValue(Types::AttrBool), [](auto& a) { a.setBoolVal(false); }), true},
+      {"doubleMinusOne", after(AttrValue(Types::AttrDouble), [](auto& a) { a.setDoubleVal(-1); }),
        true},
-      {"doubleMinusOne",
-       after(AttrValue(HATAttrTypes::AttrDouble), [](auto& a) { a.setDoubleVal(-1.0); }), true},
-      {"doubleZero", after(AttrValue(HATAttrTypes::AttrDouble), [](auto& a) { a.setDoubleVal(0); }),
+      {"doubleZero", after(AttrValue(Types::AttrDouble), [](auto& a) { a.setDoubleVal(0); }),
        false},
       {"intSetBack", after(AttrValue(3, -1), [](auto& a) { a.setIntVal(-1); }), true},
       {"stringSet", after(AttrValue("", ""), [](auto& a) { a.setStringVal("n"); }), false},

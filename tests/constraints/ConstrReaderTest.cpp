@@ -144,10 +144,7 @@ TEST_F(ConstrReaderTest, FifoRecordsAreReadAndTheirNamesNotResolved)
   const FifoLocationsRecords& records = handler.getFifoLocationsRecords();
   ASSERT_EQ(records.getRecords().size(), 2u);
   EXPECT_TRUE(records.getDmaFifoRecordSize() == 1 && records.getStreamFifoRecordSize() == 1);
-  JDocument written;
-  written.SetObject();
-  records.write(written, written);
-  EXPECT_EQ(toText(written),
+  EXPECT_EQ(written(records),
             R"({"fifo_locations_records":{"dma_fifos":{"dma0":{"tile_type":"mem","row":2,)"
             R"("column":1,"size":4,"offset":3,"bankId":5}},"stream_fifos":{"s0":)"
             R"({"tile_type":"core","column":6,"channel":7}}}})");

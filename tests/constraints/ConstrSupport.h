@@ -8,6 +8,7 @@
 #include "BaseVisitor.h"
 #include "ConstBaseVisitor.h"
 #include "ConstrHandler.h"
+#include "FifoLocationsRecords.h"
 #include "HEXAlgException.h"
 #include "MemSpec.h"
 #include "ShimSpec.h"
@@ -68,6 +69,14 @@ inline std::string written(const BaseConstraint& constr, const BaseNameResolver*
   JDocument doc;
   doc.SetObject();
   constr.write(doc, doc, resolver);
+  return toText(doc);
+}
+
+inline std::string written(const FifoLocationsRecords& records)
+{
+  JDocument doc;
+  doc.SetObject();
+  records.write(doc, doc);
   return toText(doc);
 }
 

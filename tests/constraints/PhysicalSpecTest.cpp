@@ -208,14 +208,4 @@ TEST(PhysicalRangeTest, RectanglesAndBoundingBoxes)
   EXPECT_FALSE(names.getFirst().isValid() || names.getSecond().isValid());
 }
 
-TEST(PhysicalRangeTest, ArrayAppendsInOrder)
-{
-  JDocument doc;
-  PhysicalRangeArray array(doc.GetAllocator());
-  array.pushBack(Range(column(7)));
-  array.pushTileRangeBack(Range(at(2, 0), at(5, 3)));
-  array.pushShimRangeBack(Range(named("s", json::ShimSpec())));
-  EXPECT_EQ(toText(array.get()), R"j([7,"(2,0):(5,3)","s"])j");
-}
-
 }  // namespace
