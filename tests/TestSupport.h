@@ -50,6 +50,13 @@ inline void writeFile(const std::string& path, const std::string& text)
   std::ofstream(path, std::ios::binary) << text;
 }
 
+inline JDocument parseJson(const char* text)
+{
+  JDocument document;
+  document.Parse(text);
+  return document;
+}
+
 // Compact JSON text of a value, for comparing exact output.
 inline std::string toText(const JValue& value)
 {

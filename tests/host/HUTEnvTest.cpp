@@ -4,57 +4,34 @@
 
 namespace {
 
-using testing_support::ScopedEnv;
-using testing_support::TempDir;
-using testing_support::writeFile;
-namespace fs = boost::filesystem;
+using namespace testing_support;
 
-const std::string sourceDataDir = IPCONFIG_RW_DATA_SOURCE_DIR;
-// A file the source tree's data directory always holds.
-const std::string inSourceTree = "README.md";
-
-enum class Root { unset, withFile, emptyData, missing };
-
-struct DataDirCase {
-  const char* name;
-  Root root;
-  const char* relativePath;
-  bool expectKvrRoot;  // else the source tree's data directory
-};
-
-void PrintTo(const DataDirCase& c, std::ostream* out)
+TEST(HUTEnvTest, DataDirIsTheFirstCandidateHoldingThePathElseTheFirstExisting)
 {
-  *out << c.name;
+  enum class Root { unset, withFile, emptyData, missing };
+  const struct {
+    Root root;
+    const char* relativePath;
+    bool expectKvrRoot;  // else the source tree's data directory
+  } rows[] = {{Root::withFile, "parts/x/schema.json", true},
+              {Root::emptyData, "README.md", false},  // only the source tree holds it
+              {Root::emptyData, "nothing.json", true},
+              {Root::missing, "nothing.json", false},
+              {Root::unset, "nothing.json", false}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(std::to_string(static_cast<int>(row.root)) + " " + row.relativePath);
+    const TempDir root;
+    if (row.root == Root::withFile)
+      writeFile(root.file("data/parts/x/schema.json"), "{}");
+    if (row.root == Root::emptyData)
+      fs::create_directories(root.path() / "data");
+    const ScopedEnv kvrRoot("KVR_ROOT", row.root == Root::unset
+                                            ? std::nullopt
+                                            : std::optional<std::string>(root.path().string()));
+    EXPECT_EQ(HUTEnv::getKVRDataDir(row.relativePath),
+              row.expectKvrRoot ? (root.path() / "data").string() : IPCONFIG_RW_DATA_SOURCE_DIR);
+  }
 }
-
-class DataDirTest : public ::testing::TestWithParam<DataDirCase> {};
-
-TEST_P(DataDirTest, FirstCandidateHoldingThePathElseFirstExisting)
-{
-  const DataDirCase& c = GetParam();
-  const TempDir root;
-  if (c.root == Root::withFile)
-    writeFile(root.file("data/parts/x/schema.json"), "{}");
-  if (c.root == Root::emptyData)
-    fs::create_directories(root.path() / "data");
-  const ScopedEnv kvrRoot("KVR_ROOT", c.root == Root::unset
-                                          ? std::nullopt
-                                          : std::optional<std::string>(root.path().string()));
-
-  const std::string expected = c.expectKvrRoot ? (root.path() / "data").string() : sourceDataDir;
-  EXPECT_EQ(HUTEnv::getKVRDataDir(c.relativePath), expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Candidates, DataDirTest,
-    ::testing::Values(DataDirCase{"kvrRootHoldsIt", Root::withFile, "parts/x/schema.json", true},
-                      DataDirCase{"onlySourceTreeHoldsIt", Root::emptyData, "README.md", false},
-                      DataDirCase{"nobodyHoldsItKvrRootExists", Root::emptyData, "nothing.json",
-                                  true},
-                      DataDirCase{"kvrRootMissing", Root::missing, "nothing.json", false},
-                      DataDirCase{"noKvrRoot", Root::unset, "nothing.json", false},
-                      DataDirCase{"noKvrRootSourceHoldsIt", Root::unset, "README.md", false}),
-    [](const auto& info) { return info.param.name; });
 
 TEST(HUTEnvTest, PwdFollowsTheCurrentDirectory)
 {

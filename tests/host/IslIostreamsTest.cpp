@@ -10,10 +10,8 @@
 namespace {
 
 namespace bio = boost::iostreams;
-using isl::iostreams::filtering_stream;
-using isl::iostreams::input;
-using testing_support::TempDir;
-using testing_support::writeFile;
+using namespace isl::iostreams;
+using namespace testing_support;
 
 const std::string text = "{\"MetaData\": []}\n";
 
@@ -54,8 +52,8 @@ TEST_P(AutodetectTest, DecompressesByMagicBytesWhileBasicFileReadsAsIs)
   const TempDir dir;
   const std::string packed = GetParam().pack();
   writeFile(dir.file("f"), packed);
-  EXPECT_EQ(readAll(dir.file("f"), isl::iostreams::xp_autodetect()), GetParam().unpacked);
-  EXPECT_EQ(readAll(dir.file("f"), isl::iostreams::basic_file()), packed);
+  EXPECT_EQ(readAll(dir.file("f"), xp_autodetect()), GetParam().unpacked);
+  EXPECT_EQ(readAll(dir.file("f"), basic_file()), packed);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -69,12 +67,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(AutodetectErrorTest, MissingFileLeavesTheStreamFailed)
 {
-  for (const filtering_stream<input>::Opener& opener :
-       {filtering_stream<input>::Opener(isl::iostreams::xp_autodetect()),
-        filtering_stream<input>::Opener(isl::iostreams::basic_file())}) {
-    filtering_stream<input> in("/no/such/file.json", std::ios_base::binary, opener);
-    EXPECT_FALSE(in.good());
-  }
+  using Opener = filtering_stream<input>::Opener;
+  for (const Opener& opener : {Opener(xp_autodetect()), Opener(basic_file())})
+    EXPECT_FALSE(filtering_stream<input>("/no/such/file", std::ios_base::binary, opener).good());
 }
 
 TEST(AutodetectErrorTest, CorruptGzipMarksTheStreamBadInsteadOfThrowing)
@@ -84,8 +79,7 @@ TEST(AutodetectErrorTest, CorruptGzipMarksTheStreamBadInsteadOfThrowing)
   packed.resize(12);
   packed += "garbage that is no deflate stream";
   writeFile(dir.file("f.gz"), packed);
-  filtering_stream<input> in(dir.file("f.gz"), std::ios_base::binary,
-                             isl::iostreams::xp_autodetect());
+  filtering_stream<input> in(dir.file("f.gz"), std::ios_base::binary, xp_autodetect());
   std::string read;
   EXPECT_NO_THROW(std::getline(in, read, '\0'));
   EXPECT_TRUE(in.bad());

@@ -8,11 +8,7 @@
 namespace {
 
 using IPConfig::JsonFileFrame;
-using testing_support::MessageLogTest;
-using testing_support::ScopedEnv;
-using testing_support::TempDir;
-using testing_support::writeFile;
-namespace fs = boost::filesystem;
+using namespace testing_support;
 
 const char* const schemaText = R"({
   "type": "object",
@@ -32,13 +28,6 @@ protected:
     writeFile(schemaPath(), schemaText);
   }
 
-  static JDocument document(const char* text)
-  {
-    JDocument parsed;
-    parsed.Parse(text);
-    return parsed;
-  }
-
   std::string schemaPath() const
   {
     return root_.file("data/parts/tarnel/common/noc/schemas/traffic.json");
@@ -48,21 +37,16 @@ protected:
   ScopedEnv kvrRoot_;
 };
 
-TEST_F(JsonFileFrameTest, StreamWithFailbitIsRefusedBeforeParsing)
+TEST_F(JsonFileFrameTest, ParseRefusesAFailedStreamAndReportsMalformedInput)
 {
-  std::istringstream in("{}");
-  in.setstate(std::ios_base::failbit);
+  std::istringstream failed("{}");
+  failed.setstate(std::ios_base::failbit);
   JDocument parsed;
-  expectThrows([&] { JsonFileFrame::parse(in, "given.json", parsed); }, "@90-1@%s",
+  expectThrows([&] { JsonFileFrame::parse(failed, "given.json", parsed); }, "@90-1@%s",
                {"given.json"});
-  EXPECT_TRUE(parsed.IsNull());
-}
-
-TEST_F(JsonFileFrameTest, MalformedInputIsReportedWithTheParseError)
-{
-  std::istringstream in(R"({"name": "a",)");
-  JDocument parsed;
-  expectThrows([&] { JsonFileFrame::parse(in, "given.json", parsed); }, "@90-2@%s%s",
+  EXPECT_TRUE(parsed.IsNull()) << "refused before parsing";
+  std::istringstream malformed(R"({"name": "a",)");
+  expectThrows([&] { JsonFileFrame::parse(malformed, "given.json", parsed); }, "@90-2@%s%s",
                {"given.json", "Missing a name for object member. (offset 13)"});
 }
 
@@ -91,44 +75,34 @@ TEST_F(JsonFileFrameTest, ReadFileHandsOnTheOpenStreamAndCanonicalName)
   EXPECT_EQ(HCRapidJsonReadWriteUtils::GetStringProperty(parsed, "name"), "a");
 }
 
-TEST_F(JsonFileFrameTest, MissingSchemaIsReportedByTheSchemasCanonicalName)
+TEST_F(JsonFileFrameTest, ValidateReportsTheJsonPointerAndASchemaByItsCanonicalName)
 {
-  const JDocument valid = document(R"({"name": "a"})");
-  const std::string schema = root_.file("data/sub/../nothing.json");
-  expectThrows(
-      [&] { JsonFileFrame::validate(valid, "in.json", schema, isl::iostreams::basic_file()); },
-      "@90-3@%s", {(fs::canonical(root_.path()) / "data" / "nothing.json").string()});
-}
-
-TEST_F(JsonFileFrameTest, MalformedSchemaIsReportedWithItsParseError)
-{
+  const auto validate = [](const char* text, const std::string& schema) {
+    JsonFileFrame::validate(parseJson(text), "in.json", schema, isl::iostreams::xp_autodetect());
+  };
+  EXPECT_NO_THROW(validate(R"({"items": [1]})", schemaPath()));
+  expectThrows([&] { validate(R"({"name": "a", "items": [1, 2, "x"]})", schemaPath()); },
+               "@90-2@%s%s", {"in.json", "/items/2"});
+  expectThrows([&] { validate("{}", root_.file("data/sub/../nothing.json")); }, "@90-3@%s",
+               {(fs::canonical(root_.path()) / "data" / "nothing.json").string()});
   writeFile(schemaPath(), "{\"type\": ");
-  expectThrows(
-      [&] {
-        JsonFileFrame::validate(document("{}"), "in.json", schemaPath(),
-                                isl::iostreams::xp_autodetect());
-      },
-      "@90-4@%s%s", {fs::canonical(schemaPath()).string(), "Invalid value. (offset 9)"});
-}
-
-TEST_F(JsonFileFrameTest, SchemaViolationIsReportedWithTheJsonPointerOnly)
-{
-  const JDocument invalid = document(R"({"name": "a", "items": [1, 2, "x"]})");
-  expectThrows(
-      [&] {
-        JsonFileFrame::validate(invalid, "in.json", schemaPath(), isl::iostreams::basic_file());
-      },
-      "@90-2@%s%s", {"in.json", "/items/2"});
-  EXPECT_NO_THROW(JsonFileFrame::validate(document(R"({"items": [1]})"), "in.json", schemaPath(),
-                                          isl::iostreams::basic_file()));
+  expectThrows([&] { validate("{}", schemaPath()); }, "@90-4@%s%s",
+               {fs::canonical(schemaPath()).string(), "Invalid value. (offset 9)"});
 }
 
 TEST_F(JsonFileFrameTest, ValidWriteIsPrettyWithTwoBlankIndent)
 {
   std::ostringstream out;
-  EXPECT_TRUE(JsonFileFrame::writeValidated(document(R"({"name": "a", "items": [1, 2]})"), out,
+  EXPECT_TRUE(JsonFileFrame::writeValidated(parseJson(R"({"name": "a", "items": [1, 2]})"), out,
                                             schemaPath(), "Test File"));
   EXPECT_EQ(out.str(), "{\n  \"name\": \"a\",\n  \"items\": [\n    1,\n    2\n  ]\n}");
+  // Sub-schemas get validators of their own; they must not write.
+  writeFile(schemaPath(), R"({"type": "object",
+    "patternProperties": {"^n": {"oneOf": [{"type": "string"}, {"type": "integer"}]}}})");
+  out.str("");
+  EXPECT_TRUE(JsonFileFrame::writeValidated(parseJson(R"({"name": "a", "n2": 3})"), out,
+                                            schemaPath(), "Test File"));
+  EXPECT_EQ(out.str(), "{\n  \"name\": \"a\",\n  \"n2\": 3\n}");
   EXPECT_TRUE(records().empty());
 }
 
@@ -136,20 +110,9 @@ TEST_F(JsonFileFrameTest, FailedValidatedWriteLeavesTextUpToTheFailingValue)
 {
   std::ostringstream out;
   EXPECT_FALSE(JsonFileFrame::writeValidated(
-      document(R"({"name": "a", "items": [1, "x", 3]})"), out, schemaPath(), "NoC Traffic Spec"));
+      parseJson(R"({"name": "a", "items": [1, "x", 3]})"), out, schemaPath(), "NoC Traffic Spec"));
   EXPECT_EQ(out.str(), "{\n  \"name\": \"a\",\n  \"items\": [\n    1");
   expectSent({{"@75-585@%s", ComMsgMgr::Error, {"NoC Traffic Spec"}}});
-}
-
-// Sub-schemas get validators of their own; they must not write.
-TEST_F(JsonFileFrameTest, WriteThroughSubSchemasWritesEachValueOnce)
-{
-  writeFile(schemaPath(), R"({"type": "object",
-    "patternProperties": {"^n": {"oneOf": [{"type": "string"}, {"type": "integer"}]}}})");
-  std::ostringstream out;
-  EXPECT_TRUE(JsonFileFrame::writeValidated(document(R"({"name": "a", "n2": 3})"), out,
-                                            schemaPath(), "Test File"));
-  EXPECT_EQ(out.str(), "{\n  \"name\": \"a\",\n  \"n2\": 3\n}");
 }
 
 TEST_F(JsonFileFrameTest, WriteFileRefusingAnUnopenedStreamNeverBuildsTheText)
@@ -180,37 +143,27 @@ TEST_F(JsonFileFrameTest, WriteFileWritesTheCanonicalPathAndKeepsTheWritersResul
   EXPECT_EQ(testing_support::readFile(root_.file("out.json")), "text");
 }
 
-TEST_F(JsonFileFrameTest, WritePrettyRefusesANaN)
-{
-  JDocument nan(rapidjson::kObjectType);
-  HCRapidJsonReadWriteUtils::AddDoubleProperty(nan, "x", std::nan(""), nan.GetAllocator());
-  std::ostringstream out;
-  EXPECT_FALSE(JsonFileFrame::writePretty(nan, out));
-}
-
 class NOCJsonReadWriteUtilsTest : public MessageLogTest {};
 
-TEST_F(NOCJsonReadWriteUtilsTest, SchemaPathsLieUnderTheDataDirectory)
+TEST_F(NOCJsonReadWriteUtilsTest, SchemaPathsLieUnderTheDataDirectoryAndValidateAsksTheHost)
 {
   const TempDir root;
   const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
-  const std::string data = (root.path() / "data").string();
-  // The tree holds every schema, so that none is looked for elsewhere.
-  for (const char* schema :
-       {"noc/schemas/traffic.json", "noc/schemas/solution.json", "noc/schemas/constraints.json",
-        "merrow/LogicalArchSchema.json", "merrow/ZXSolutionSchema.json"})
-    writeFile(data + "/parts/tarnel/common/" + schema, "{}");
+  const std::string common = (root.path() / "data/parts/tarnel/common/").string();
   using Utils = NOC::NOCJsonReadWriteUtils;
-  EXPECT_EQ(Utils::getTrafficJsonSchemaFile(), data + "/parts/tarnel/common/noc/schemas/traffic.json");
-  EXPECT_EQ(Utils::getSolutionJsonSchemaFile(),
-            data + "/parts/tarnel/common/noc/schemas/solution.json");
-  EXPECT_EQ(Utils::getConstraintsJsonSchemaFile(),
-            data + "/parts/tarnel/common/noc/schemas/constraints.json");
-  EXPECT_EQ(Utils::getQPEShimConstraintsJsonSchemaFile(), Utils::getConstraintsJsonSchemaFile());
-  EXPECT_EQ(Utils::getLogicalArchJsonSchemaFile(),
-            data + "/parts/tarnel/common/merrow/LogicalArchSchema.json");
-  EXPECT_EQ(Utils::getZXSolutionJsonSchemaFile(),
-            data + "/parts/tarnel/common/merrow/ZXSolutionSchema.json");
+  const std::pair<std::string (*)(), const char*> paths[] = {
+      {Utils::getTrafficJsonSchemaFile, "noc/schemas/traffic.json"},
+      {Utils::getSolutionJsonSchemaFile, "noc/schemas/solution.json"},
+      {Utils::getConstraintsJsonSchemaFile, "noc/schemas/constraints.json"},
+      {Utils::getQPEShimConstraintsJsonSchemaFile, "noc/schemas/constraints.json"},
+      {Utils::getLogicalArchJsonSchemaFile, "merrow/LogicalArchSchema.json"},
+      {Utils::getZXSolutionJsonSchemaFile, "merrow/ZXSolutionSchema.json"}};
+  for (const auto& [schemaFile, relative] : paths) {
+    writeFile(common + relative, "{}");  // else the source tree's copy would be found
+    EXPECT_EQ(schemaFile(), common + relative);
+  }
+  expectThrows([] { Utils::validateLogicalArchSchemaFile(""); }, "@90-5@%s%s",
+               {"", "no schema path given"});
 }
 
 TEST_F(NOCJsonReadWriteUtilsTest, PortMessagesAreCriticalWarningsInArgumentOrder)
@@ -219,12 +172,6 @@ TEST_F(NOCJsonReadWriteUtilsTest, PortMessagesAreCriticalWarningsInArgumentOrder
   NOC::NOCJsonReadWriteUtils::issueInvalidPortType("M_AXIS");
   expectSent({{"@73-30@%s%s", ComMsgMgr::CriticalWarning, {"S_AXI", "noc_slave_0"}},
               {"@73-448@%s", ComMsgMgr::CriticalWarning, {"M_AXIS"}}});
-}
-
-TEST_F(NOCJsonReadWriteUtilsTest, ValidateForwardsToTheHostCheck)
-{
-  expectThrows([] { NOC::NOCJsonReadWriteUtils::validateLogicalArchSchemaFile(""); },
-               "@90-5@%s%s", {"", "no schema path given"});
 }
 
 }  // namespace

@@ -8,11 +8,7 @@
 namespace {
 
 using IPConfig::Frameworks::QPEPrjMetaDataModel;
-using testing_support::MessageLogTest;
-using testing_support::readFile;
-using testing_support::TempDir;
-using testing_support::writeFile;
-namespace fs = boost::filesystem;
+using namespace testing_support;
 
 std::string written(const QPEPrjMetaDataModel& model)
 {
@@ -70,41 +66,28 @@ TEST(QPEPrjMetaDataModelTest, GettersSeeOnlyTheHeldType)
   EXPECT_TRUE(model.getStringArrayProperty("int").empty());
 }
 
-struct ReadValueCase {
-  const char* value;
-  const char* heldType;  // empty: no property is made
-};
-
-void PrintTo(const ReadValueCase& c, std::ostream* out)
+TEST(QPEPrjMetaDataModelTest, FirstMatchingTestDecidesTheHeldType)
 {
-  *out << c.value;
-}
-
-class ReadValueTest : public ::testing::TestWithParam<ReadValueCase> {};
-
-TEST_P(ReadValueTest, FirstMatchingTestDecidesTheHeldType)
-{
-  const QPEPrjMetaDataModel model = readText(std::string(R"({"MetaData": [{"name": "k", "value": )") +
-                                             GetParam().value + "}]}");
-  const std::string expected = GetParam().heldType;
-  ASSERT_EQ(model.hasProperty("k"), !expected.empty());
-  if (!expected.empty()) {
-    EXPECT_EQ(model.getProperties().at("k").type().name(), expected);
+  const std::pair<const char*, const char*> rows[] = {  // value, held type (empty: none)
+      {R"("7")", typeid(std::string).name()},
+      {"1.5", typeid(double).name()},
+      {"7", typeid(int).name()},
+      {"-2147483648", typeid(int).name()},
+      {"true", typeid(bool).name()},
+      {"2147483648", typeid(unsigned long).name()},
+      {R"(["a", "b"])", typeid(std::vector<std::string>).name()},
+      {"-2147483649", ""},
+      {"null", ""},
+      {"{}", ""}};
+  for (const auto& [value, heldType] : rows) {
+    SCOPED_TRACE(value);
+    const QPEPrjMetaDataModel model =
+        readText(std::string(R"({"MetaData": [{"name": "k", "value": )") + value + "}]}");
+    ASSERT_EQ(model.hasProperty("k"), *heldType != '\0');
+    if (*heldType)
+      EXPECT_EQ(model.getProperties().at("k").type().name(), std::string(heldType));
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Values, ReadValueTest,
-    ::testing::Values(ReadValueCase{R"("7")", typeid(std::string).name()},
-                      ReadValueCase{"1.5", typeid(double).name()},
-                      ReadValueCase{"7", typeid(int).name()},
-                      ReadValueCase{"-2147483648", typeid(int).name()},
-                      ReadValueCase{"true", typeid(bool).name()},
-                      ReadValueCase{"false", typeid(bool).name()},
-                      ReadValueCase{"2147483648", typeid(unsigned long).name()},
-                      ReadValueCase{R"(["a", "b"])", typeid(std::vector<std::string>).name()},
-                      ReadValueCase{"-2147483649", ""}, ReadValueCase{"null", ""},
-                      ReadValueCase{"{}", ""}));
 
 TEST(QPEPrjMetaDataModelTest, ReadMergesIntoWhatIsThere)
 {
@@ -158,48 +141,28 @@ TEST_F(MetaDataFileTest, WriteToAnUnopenablePathDoesNothingQuietly)
   EXPECT_TRUE(records().empty());
 }
 
-struct BadFileCase {
-  const char* name;
-  const char* contents;  // null: no file at all
-  const char* format;
-  const char* detail;    // second argument, if the message has one
-};
-
-void PrintTo(const BadFileCase& c, std::ostream* out)
+TEST_F(MetaDataFileTest, BadFileFailsWithANumberedMessageAndLeavesTheModel)
 {
-  *out << c.name;
-}
-
-class BadMetaDataFileTest : public MetaDataFileTest,
-                            public ::testing::WithParamInterface<BadFileCase> {};
-
-TEST_P(BadMetaDataFileTest, FailsWithANumberedMessageAndLeavesTheModel)
-{
-  const BadFileCase& c = GetParam();
+  const struct {
+    const char* contents;  // null: no file at all
+    const char* format;
+    const char* detail;  // second argument, if the message has one
+  } rows[] = {{nullptr, "@90-1@%s", nullptr},
+              {"", "@90-2@%s%s", "The document is empty. (offset 0)"},
+              {"{\"MetaData\": [}", "@90-2@%s%s", "Invalid value. (offset 14)"}};
   const std::string path = dir_.file("meta.json");
-  if (c.contents)
-    writeFile(path, c.contents);
-  const std::string reported =
-      c.contents ? path : (fs::canonical(dir_.path()) / "meta.json").string();
-  std::vector<std::string> args{reported};
-  if (c.detail)
-    args.push_back(c.detail);
-
-  QPEPrjMetaDataModel model;
-  model.addIntegrProperty("kept", 1);
-  expectThrows([&] { model.readFromJSONFile(path); }, c.format, args);
-  EXPECT_EQ(model.getProperties().size(), 1u);
+  for (const auto& row : rows) {
+    if (row.contents)
+      writeFile(path, row.contents);
+    std::vector<std::string> args{
+        row.contents ? path : (fs::canonical(dir_.path()) / "meta.json").string()};
+    if (row.detail)
+      args.push_back(row.detail);
+    QPEPrjMetaDataModel model;
+    model.addIntegrProperty("kept", 1);
+    expectThrows([&] { model.readFromJSONFile(path); }, row.format, args);
+    EXPECT_EQ(model.getProperties().size(), 1u);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, BadMetaDataFileTest,
-    ::testing::Values(
-        BadFileCase{"missing", nullptr, "@90-1@%s", nullptr},
-        BadFileCase{"empty", "", "@90-2@%s%s", "The document is empty. (offset 0)"},
-        BadFileCase{"malformed", "{\"MetaData\": [}", "@90-2@%s%s",
-                    "Invalid value. (offset 14)"},
-        BadFileCase{"truncated", "{\"MetaData\": [{\"name\": \"a\", \"val", "@90-2@%s%s",
-                    "Missing a closing quotation mark in string. (offset 32)"}),
-    [](const auto& info) { return info.param.name; });
 
 }  // namespace

@@ -6,33 +6,17 @@ namespace {
 
 using IPConfig::Frameworks::QPEPrjStrEncoder;
 
-struct IntCase {
-  std::string text;
-  unsigned int sum;
-};
-
-void PrintTo(const IntCase& c, std::ostream* out)
+TEST(QPEPrjStrEncoderTest, IntIsTheSumOfSignedBytesWithWrapAround)
 {
-  *out << ::testing::PrintToString(c.text);
+  const std::pair<std::string, unsigned int> rows[] = {
+      {"", 0u}, {"a", 97u}, {"ab", 195u}, {"ba", 195u}, {"\x80", 4294967168u}, {"a\xff", 96u}};
+  for (const auto& [text, sum] : rows)
+    EXPECT_EQ(QPEPrjStrEncoder::encodeAsInt(text), sum) << ::testing::PrintToString(text);
 }
-
-class EncodeAsIntTest : public ::testing::TestWithParam<IntCase> {};
-
-TEST_P(EncodeAsIntTest, SumsSignedBytesWithWrapAround)
-{
-  EXPECT_EQ(QPEPrjStrEncoder::encodeAsInt(GetParam().text), GetParam().sum);
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, EncodeAsIntTest,
-                         ::testing::Values(IntCase{"", 0u}, IntCase{"a", 97u},
-                                           IntCase{"ab", 195u}, IntCase{"ba", 195u},
-                                           IntCase{"\x80", 4294967168u},
-                                           IntCase{"a\xff", 96u}));
 
 TEST(QPEPrjStrEncoderTest, ListIsSortedByBytesAndJoined)
 {
   EXPECT_EQ(QPEPrjStrEncoder::encodeAsString(std::vector<std::string>{"b", "a"}), "ab");
-  EXPECT_EQ(QPEPrjStrEncoder::encodeAsString(std::vector<std::string>{"a", "b"}), "ab");
   EXPECT_EQ(QPEPrjStrEncoder::encodeAsString(std::vector<std::string>{"b", "B", "\xe9", "a"}),
             "Bab\xe9");
   EXPECT_EQ(QPEPrjStrEncoder::encodeAsString(std::vector<std::string>{}), "");
