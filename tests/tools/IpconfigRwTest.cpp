@@ -9,8 +9,7 @@
 
 namespace {
 
-using testing_support::TempDir;
-using testing_support::writeFile;
+using namespace testing_support;
 
 struct RunResult {
   int exitCode;
@@ -94,8 +93,6 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"metadataMalformed", "{", "metadata check $D/in.json", 1,
                 "ERROR: [ipconfig @90-2@] $D/in.json Missing a name for object member. "
                 "(offset 1)\n"},
-        RunCase{"metadataEmpty", "", "metadata check $D/in.json", 1,
-                "ERROR: [ipconfig @90-2@] $D/in.json The document is empty. (offset 0)\n"},
         RunCase{"unwritable", nullptr, "metadata roundtrip $E/metadata.json $D/no/out.json", 1,
                 "metadata: cannot write $D/no/out.json\n"},
         RunCase{"trafficCheck", nullptr, "traffic check $E/traffic.json", 0,
