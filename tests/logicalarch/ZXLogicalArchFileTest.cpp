@@ -11,12 +11,7 @@
 namespace {
 
 using namespace IPConfig::Frameworks;
-using testing_support::BadTextCase;
-using testing_support::MessageLogTest;
-using testing_support::readFile;
-using testing_support::ScopedEnv;
-using testing_support::TempDir;
-using testing_support::writeFile;
+using namespace testing_support;
 
 const std::string fileName = "in/logical_arch.json";
 const std::string example = IPCONFIG_RW_EXAMPLES_DIR "/logical_arch.json";

@@ -66,16 +66,19 @@ protected:
   HDGUIStatus status;
 };
 
-TEST_F(NOCJsonTrafficSpecReaderTest, EmptyFileAddsNothingAndDeviceNameResetsOnlyWithProperties)
+TEST_F(NOCJsonTrafficSpecReaderTest, EmptyFileAddsNothingAndSystemPropertiesResetTheDeviceName)
 {
   spec.deviceName = "kept";
   read("{}");
   EXPECT_EQ(spec.getNumPaths(), 0);
   EXPECT_TRUE(spec.getMasters().empty() && spec.getSlaves().empty() && spec.getOthers().empty());
   EXPECT_EQ(spec.deviceName, "kept");
-  read(R"({"SystemProperties": {"Frequency": 800}})");
+  read(R"({"SystemProperties": {"Frequency": 800, "SECURE_SLR_PMC_TRAFFIC": true,
+                                  "DfxPaths": ["top/rp///"]}})");
   EXPECT_EQ(spec.deviceName, "");
   EXPECT_EQ(spec.getUserSetFrequency(), 800);
+  EXPECT_TRUE(spec.secureMode);
+  EXPECT_EQ(spec.getDfxPaths(), std::vector<std::string>{"top/rp/"}) << "one trailing slash kept";
   expectSent({});
 }
 
@@ -278,13 +281,6 @@ TEST_F(NOCJsonTrafficSpecReaderTest, NamesPassThroughTheResolver)
   EXPECT_EQ(spec.getDfxPaths(), (std::vector<std::string>{"top/rp/", "gone/rp/"}));
   expectThrows([&] { readRenamed(file(R"({"Name": "gone", "CompType": "NPS"})")); }, "@90-2@%s%s",
                {fileName, "Could not find netlist instance for traffic spec instance: gone"});
-}
-
-TEST_F(NOCJsonTrafficSpecReaderTest, IdentityKeepsOneTrailingSlashOfADfxPath)
-{
-  read(R"({"SystemProperties": {"DfxPaths": ["top/rp///"], "SECURE_SLR_PMC_TRAFFIC": true}})");
-  EXPECT_EQ(spec.getDfxPaths(), std::vector<std::string>{"top/rp/"});
-  EXPECT_TRUE(spec.secureMode);
 }
 
 TEST_F(NOCJsonTrafficSpecReaderTest, DefaultSlaveIsAddedOnce)
