@@ -2,6 +2,8 @@
 
 #include "HCRapidJsonReadWriteUtils.h"
 
+#include <functional>
+
 namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
@@ -89,53 +91,35 @@ TEST(PropertyAdderTest, AppendsInCallOrderAndKeepsDuplicateKeys)
             R"("o":{"n":1},"k":"second"})");
 }
 
-struct ErrorCase {
-  const char* name;
-  std::function<void()> call;
-  const char* format;
-  std::vector<std::string> args;
-};
+class ErrorCallTest : public MessageLogTest {};
 
-void PrintTo(const ErrorCase& c, std::ostream* out)
+TEST_F(ErrorCallTest, EachThrowsItsNumberedMessageWithTheFileAttached)
 {
-  *out << c.name;
-}
-
-class ErrorCallTest : public MessageLogTest, public ::testing::WithParamInterface<ErrorCase> {};
-
-TEST_P(ErrorCallTest, ThrowsItsNumberedMessageWithTheFileAttached)
-{
-  const ErrorCase& c = GetParam();
-  expectThrows(c.call, c.format, c.args);
-  const auto logged = records();
-  ASSERT_EQ(logged.size(), 1u);
-  EXPECT_TRUE(logged[0].thrown);
-  EXPECT_EQ(logged[0].message.getMask(), ComMsgMgr::Error);
-  EXPECT_EQ(logged[0].message.getAttachedFile(), c.args[0]);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Calls, ErrorCallTest,
-    ::testing::Values(
-        ErrorCase{"readingJson", [] { Json::errorReadingJsonFile("/d/a.json"); }, "@90-1@%s",
-                  {"/d/a.json"}},
-        ErrorCase{"parsingJson", [] { Json::errorParsingJsonFile("/d/a.json", "/x/0"); },
-                  "@90-2@%s%s", {"/d/a.json", "/x/0"}},
-        ErrorCase{"readingSchema", [] { Json::errorReadingSchemaFile("/d/s.json"); }, "@90-3@%s",
-                  {"/d/s.json"}},
-        ErrorCase{"parsingSchema", [] { Json::errorParsingSchemaFile("/d/s.json", "bad"); },
-                  "@90-4@%s%s", {"/d/s.json", "bad"}},
-        ErrorCase{"missingSchema", [] { Json::validateSchemaFile("/no/such/schema.json"); },
-                  "@90-5@%s%s",
-                  {"/no/such/schema.json", "file does not exist: /no/such/schema.json"}},
-        ErrorCase{"emptySchemaPath", [] { Json::validateSchemaFile(""); }, "@90-5@%s%s",
-                  {"", "no schema path given"}},
-        ErrorCase{"directorySchema", [] { Json::validateSchemaFile("/"); }, "@90-5@%s%s",
-                  {"/", "not a regular file: /"}}),
-    [](const auto& info) { return info.param.name; });
-
-TEST(ValidateSchemaFileTest, AcceptsAFile)
-{
+  const struct {
+    std::function<void()> call;
+    const char* format;
+    std::vector<std::string> args;
+  } calls[] = {
+      {[] { Json::errorReadingJsonFile("/d/a.json"); }, "@90-1@%s", {"/d/a.json"}},
+      {[] { Json::errorParsingJsonFile("/d/a.json", "/x/0"); }, "@90-2@%s%s",
+       {"/d/a.json", "/x/0"}},
+      {[] { Json::errorReadingSchemaFile("/d/s.json"); }, "@90-3@%s", {"/d/s.json"}},
+      {[] { Json::errorParsingSchemaFile("/d/s.json", "bad"); }, "@90-4@%s%s",
+       {"/d/s.json", "bad"}},
+      {[] { Json::validateSchemaFile("/no/such/schema.json"); }, "@90-5@%s%s",
+       {"/no/such/schema.json", "file does not exist: /no/such/schema.json"}},
+      {[] { Json::validateSchemaFile(""); }, "@90-5@%s%s", {"", "no schema path given"}},
+      {[] { Json::validateSchemaFile("/"); }, "@90-5@%s%s", {"/", "not a regular file: /"}}};
+  for (const auto& c : calls) {
+    SCOPED_TRACE(c.args.back());
+    ComMsgLog::clear();
+    expectThrows(c.call, c.format, c.args);
+    const auto logged = records();
+    ASSERT_EQ(logged.size(), 1u);
+    EXPECT_TRUE(logged[0].thrown);
+    EXPECT_EQ(logged[0].message.getMask(), ComMsgMgr::Error);
+    EXPECT_EQ(logged[0].message.getAttachedFile(), c.args[0]);
+  }
   EXPECT_TRUE(Json::validateSchemaFile(IPCONFIG_RW_DATA_SOURCE_DIR "/README.md"));
 }
 

@@ -40,44 +40,31 @@ std::string roundtrip(const std::string& text, const std::string& prefix = "")
 
 class ZXLogicalArchFileTest : public MessageLogTest {};
 
-// A file and the bytes it is written back as, under a prefix. Without a
+// Files and the bytes they are written back as, under a prefix. Without a
 // prefix the written bytes read and written again stay as they are; a prefix
-// can cut references, which a second read drops.
-struct GoldenCase {
-  std::string input;
-  std::string prefix;
-  std::string golden;
-};
-
-void PrintTo(const GoldenCase& c, std::ostream* out)
+// can cut references, which a second read drops. The loose forms are older or
+// lenient ones: a text annotation, empty names, zero or negative figures,
+// false flags.
+TEST_F(ZXLogicalArchFileTest, WritesTheExactBytesAndStaysThere)
 {
-  *out << c.input.substr(c.input.rfind('/') + 1) << " prefix '" << c.prefix << "'";
-}
-
-class ZXLogicalArchGoldenTest : public ::testing::TestWithParam<GoldenCase> {};
-
-TEST_P(ZXLogicalArchGoldenTest, WritesTheExactBytesAndStaysThere)
-{
-  const std::string golden = readFile(GetParam().golden);
-  EXPECT_EQ(roundtrip(readFile(GetParam().input), GetParam().prefix), golden);
-  if (GetParam().prefix.empty()) {
-    EXPECT_EQ(roundtrip(golden), golden);
+  const struct {
+    std::string input, prefix, golden;
+  } files[] = {{example, "", example},
+               {data + "logical_arch_edges.json", "", data + "logical_arch_edges.json"},
+               {data + "logical_arch_edges.json", "top",
+                data + "logical_arch_edges_prefix_top.json"},
+               {data + "logical_arch_edges.json", "top/",
+                data + "logical_arch_edges_prefix_top_slash.json"},
+               {data + "logical_arch_loose.json", "", data + "logical_arch_loose_written.json"}};
+  for (const auto& file : files) {
+    SCOPED_TRACE(file.golden);
+    const std::string golden = readFile(file.golden);
+    EXPECT_EQ(roundtrip(readFile(file.input), file.prefix), golden);
+    if (file.prefix.empty()) {
+      EXPECT_EQ(roundtrip(golden), golden);
+    }
   }
 }
-
-// The loose forms are older or lenient ones: a text annotation, empty
-// names, zero or negative figures, false flags.
-INSTANTIATE_TEST_SUITE_P(
-    Files, ZXLogicalArchGoldenTest,
-    ::testing::Values(GoldenCase{example, "", example},
-                      GoldenCase{data + "logical_arch_edges.json", "",
-                                 data + "logical_arch_edges.json"},
-                      GoldenCase{data + "logical_arch_edges.json", "top",
-                                 data + "logical_arch_edges_prefix_top.json"},
-                      GoldenCase{data + "logical_arch_edges.json", "top/",
-                                 data + "logical_arch_edges_prefix_top_slash.json"},
-                      GoldenCase{data + "logical_arch_loose.json", "",
-                                 data + "logical_arch_loose_written.json"}));
 
 TEST_F(ZXLogicalArchFileTest, PrefixesTopAndTopSlashAgreeOnOneLevelNamesAndStayStable)
 {
@@ -103,66 +90,52 @@ TEST_F(ZXLogicalArchFileTest, ReadingLinksPortsAndConnectionsOfTheExample)
   EXPECT_FALSE(model.hasLogicalConnection("top/buffer"));
 }
 
-// A text of one enumerated key: the value read, and the text written back
-// (null: the key is not written).
-struct TextCase {
-  const char* key;
-  const char* text;
-  std::uint32_t value;
-  const char* written;
-};
-
-void PrintTo(const TextCase& c, std::ostream* out)
+TEST_F(ZXLogicalArchFileTest, ReadsAndWritesTheEnumeratedConnectionKeys)
 {
-  *out << c.key << " '" << c.text << "'";
+  // A text of one key: the value read, and the text written back (null: the
+  // key is not written).
+  const struct {
+    const char* key;
+    const char* text;
+    std::uint32_t value;
+    const char* written;
+  } texts[] = {{"direction", "qpe_to_pl", 0, "qpe_to_pl"},
+               {"direction", "zx_to_pl", 0, "qpe_to_pl"},
+               {"direction", "pl_to_zx", 1, "pl_to_qpe"},
+               {"direction", "zx_to_noc", 2, "qpe_to_noc"},
+               {"direction", "noc_to_zx", 3, "noc_to_qpe"},
+               {"direction", "noc_to_qpe", 3, "noc_to_qpe"},
+               {"direction", "noc_to_pl", 4, "noc_to_pl"},
+               {"direction", "pl_to_noc", 5, "pl_to_noc"},
+               {"direction", "noc_to_noc", 6, "noc_to_noc"},
+               {"direction", "pl_to_pl", 7, "pl_to_pl"},
+               {"direction", "zx_to_zx", 8, nullptr},
+               {"type", "event", 2, "event"},
+               {"type", "STREAM", 3, nullptr},
+               {"memMode", "read-only", 0, "read-only"},
+               {"memMode", "write-only", 1, "write-only"},
+               {"memMode", "rw", 3, nullptr},
+               {"addrType", "physical", 1, "physical"},
+               {"addrType", "", 2, nullptr}};
+  for (const auto& c : texts) {
+    const std::string key = c.key;
+    SCOPED_TRACE(key + " '" + c.text + "'");
+    ZXLogicalArchModel model;
+    read(R"({"connections": {"c": {")" + key + R"(": ")" + c.text + R"("}}})", model);
+    std::vector<ZXLogicalConnection*> connections;
+    ASSERT_EQ(model.getLogicalConnections(connections), 1u);
+    const ZXLogicalConnection& connection = *connections[0];
+    const std::map<std::string, std::uint32_t> values{
+        {"type", connection.connectionType},
+        {"direction", connection.connectionDirection},
+        {"memMode", connection.memMode},
+        {"addrType", connection.addrType}};
+    EXPECT_EQ(values.at(key), c.value);
+    EXPECT_EQ(write(model), c.written ? "{\n  \"connections\": {\n    \"c\": {\n      \"" + key +
+                                            "\": \"" + c.written + "\"\n    }\n  }\n}"
+                                      : "{\n  \"connections\": {\n    \"c\": {}\n  }\n}");
+  }
 }
-
-class ZXLogicalArchTextTest : public ::testing::TestWithParam<TextCase> {};
-
-TEST_P(ZXLogicalArchTextTest, ReadsAndWritesTheConnectionKey)
-{
-  const TextCase& c = GetParam();
-  ZXLogicalArchModel model;
-  read(std::string(R"({"connections": {"c": {")") + c.key + R"(": ")" + c.text + R"("}}})",
-       model);
-  std::vector<ZXLogicalConnection*> connections;
-  ASSERT_EQ(model.getLogicalConnections(connections), 1u);
-  const ZXLogicalConnection& connection = *connections[0];
-  const std::string key = c.key;
-  const std::map<std::string, std::uint32_t> values{
-      {"type", connection.connectionType},
-      {"direction", connection.connectionDirection},
-      {"memMode", connection.memMode},
-      {"addrType", connection.addrType}};
-  const std::uint32_t value = values.at(key);
-  EXPECT_EQ(value, c.value);
-  const std::string expected =
-      c.written ? "{\n  \"connections\": {\n    \"c\": {\n      \"" + key + "\": \"" + c.written +
-                      "\"\n    }\n  }\n}"
-                : "{\n  \"connections\": {\n    \"c\": {}\n  }\n}";
-  EXPECT_EQ(write(model), expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ZXLogicalArchTextTest,
-    ::testing::Values(TextCase{"direction", "qpe_to_pl", 0, "qpe_to_pl"},
-                      TextCase{"direction", "zx_to_pl", 0, "qpe_to_pl"},
-                      TextCase{"direction", "pl_to_zx", 1, "pl_to_qpe"},
-                      TextCase{"direction", "zx_to_noc", 2, "qpe_to_noc"},
-                      TextCase{"direction", "noc_to_zx", 3, "noc_to_qpe"},
-                      TextCase{"direction", "noc_to_qpe", 3, "noc_to_qpe"},
-                      TextCase{"direction", "noc_to_pl", 4, "noc_to_pl"},
-                      TextCase{"direction", "pl_to_noc", 5, "pl_to_noc"},
-                      TextCase{"direction", "noc_to_noc", 6, "noc_to_noc"},
-                      TextCase{"direction", "pl_to_pl", 7, "pl_to_pl"},
-                      TextCase{"direction", "zx_to_zx", 8, nullptr},
-                      TextCase{"type", "event", 2, "event"},
-                      TextCase{"type", "STREAM", 3, nullptr},
-                      TextCase{"memMode", "read-only", 0, "read-only"},
-                      TextCase{"memMode", "write-only", 1, "write-only"},
-                      TextCase{"memMode", "rw", 3, nullptr},
-                      TextCase{"addrType", "physical", 1, "physical"},
-                      TextCase{"addrType", "", 2, nullptr}));
 
 TEST_F(ZXLogicalArchFileTest, WriterKeepsParameterIndexZeroAndNamesValuesWithoutTextUnknown)
 {
