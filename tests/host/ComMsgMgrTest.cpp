@@ -2,8 +2,6 @@
 
 #include "ComMsgMgrInstance.h"
 
-#include <sstream>
-
 namespace {
 
 using testing_support::MessageLogTest;

@@ -6,7 +6,6 @@
 #include "ZXLogicalArchWriter.h"
 
 #include <map>
-#include <sstream>
 
 namespace {
 
@@ -74,10 +73,14 @@ TEST_F(ZXLogicalArchFileTest, PrefixesTopAndTopSlashAgreeOnOneLevelNamesAndStayS
   EXPECT_EQ(roundtrip(top), top);
 }
 
-TEST_F(ZXLogicalArchFileTest, ReadingLinksPortsAndConnectionsOfTheExample)
+TEST_F(ZXLogicalArchFileTest, ReadingTheExampleReportsProgressAndLinksPortsAndConnections)
 {
+  HDGUIStatus status;
+  std::vector<double> progress;
+  status.setListener([&](const std::string&, double value) { progress.push_back(value); });
   ZXLogicalArchModel model;
-  ZXLogicalArchReader().readFromJsonFile(example, model);
+  EXPECT_TRUE(ZXLogicalArchReader().readFromJsonFile(example, model, status));
+  EXPECT_EQ(progress, (std::vector<double>{20.0, 40.0, 60.0, 80.0, 100.0}));
   const ZXLogicalPort* out = model.getLogicalInstance("top/array")->getLogicalPort("out_spectrum");
   ASSERT_NE(out, nullptr);
   EXPECT_EQ(out->clkFreq, 312.5);
@@ -181,17 +184,6 @@ TEST_F(ZXLogicalArchFileTest, ReadingAddsToTheModelAndSkipsWhatItCannotPlace)
   EXPECT_EQ(connections[0]->srcPort, j->getPorts()[0].get());
   EXPECT_EQ(connections[0]->dstPorts, std::vector<ZXLogicalPort*>{known->getLogicalPort("old")});
   EXPECT_EQ(connections[1]->srcPort, nullptr);
-}
-
-TEST_F(ZXLogicalArchFileTest, ProgressFollowsTheSections)
-{
-  HDGUIStatus status;
-  std::vector<double> progress;
-  status.setListener([&](const std::string&, double value) { progress.push_back(value); });
-  ZXLogicalArchModel model;
-  std::istringstream in(readFile(example));
-  EXPECT_TRUE(ZXLogicalArchReader().readFromJsonFile(in, fileName, model, status));
-  EXPECT_EQ(progress, (std::vector<double>{20.0, 40.0, 60.0, 80.0, 100.0}));
 }
 
 class ZXLogicalArchFailureTest : public ZXLogicalArchFileTest,

@@ -7,8 +7,6 @@
 #include "NOCJsonTrafficSpecReader.h"
 #include "TrafficSpec.h"
 
-#include <sstream>
-
 namespace {
 
 using namespace HrdIPToolCntr;

@@ -3,8 +3,6 @@
 #include "JsonFileFrame.h"
 #include "NOCJsonReadWriteUtils.h"
 
-#include <sstream>
-
 namespace {
 
 using IPConfig::JsonFileFrame;

@@ -3,7 +3,6 @@
 #include "QPEPrjMetaDataModel.h"
 
 #include <cmath>
-#include <sstream>
 
 namespace {
 
@@ -84,8 +83,9 @@ TEST(QPEPrjMetaDataModelTest, FirstMatchingTestDecidesTheHeldType)
     const QPEPrjMetaDataModel model =
         readText(std::string(R"({"MetaData": [{"name": "k", "value": )") + value + "}]}");
     ASSERT_EQ(model.hasProperty("k"), *heldType != '\0');
-    if (*heldType)
+    if (*heldType) {
       EXPECT_EQ(model.getProperties().at("k").type().name(), std::string(heldType));
+    }
   }
 }
 
