@@ -14,14 +14,11 @@ using Connection = ZXLogicalConnection;
 ZXLogicalArchLInst* addInstance(ZXLogicalArchModel& model, ZXLogicalInstanceType kind,
                                 const std::string& name)
 {
-  switch (kind) {
-  case ZX_INSTANCE:
+  if (kind == ZX_INSTANCE)
     return model.addZXIPInstance(name);
-  case NOC_INSTANCE:
+  if (kind == NOC_INSTANCE)
     return model.addNOCIPInstance(name);
-  default:
-    return model.addPLIPInstance(name);
-  }
+  return model.addPLIPInstance(name);
 }
 
 // A port of `instance` used as the source of a new connection.

@@ -48,18 +48,7 @@ TEST_F(JsonFileFrameTest, ParseRefusesAFailedStreamAndReportsMalformedInput)
                {"given.json", "Missing a name for object member. (offset 13)"});
 }
 
-TEST_F(JsonFileFrameTest, ReadFileRefusesMissingFilesAndDirectoriesByCanonicalName)
-{
-  const auto neverCalled = [](std::istream&, const std::string&) { ADD_FAILURE(); };
-  const std::string missing = root_.file("sub/../missing.json");
-  expectThrows([&] { JsonFileFrame::readFile(missing, isl::iostreams::basic_file(), neverCalled); },
-               "@90-1@%s", {(fs::canonical(root_.path()) / "missing.json").string()});
-  expectThrows(
-      [&] { JsonFileFrame::readFile(root_.file("."), isl::iostreams::basic_file(), neverCalled); },
-      "@90-1@%s", {fs::canonical(root_.path()).string()});
-}
-
-TEST_F(JsonFileFrameTest, ReadFileHandsOnTheOpenStreamAndCanonicalName)
+TEST_F(JsonFileFrameTest, ReadFileHandsOnTheOpenStreamByCanonicalNameOrRefusesIt)
 {
   writeFile(root_.file("in.json"), R"({"name": "a"})");
   std::string seenName;
@@ -71,6 +60,14 @@ TEST_F(JsonFileFrameTest, ReadFileHandsOnTheOpenStreamAndCanonicalName)
                           });
   EXPECT_EQ(seenName, (fs::canonical(root_.path()) / "in.json").string());
   EXPECT_EQ(HCRapidJsonReadWriteUtils::GetStringProperty(parsed, "name"), "a");
+
+  const auto neverCalled = [](std::istream&, const std::string&) { ADD_FAILURE(); };
+  const std::string missing = root_.file("sub/../missing.json");
+  expectThrows([&] { JsonFileFrame::readFile(missing, isl::iostreams::basic_file(), neverCalled); },
+               "@90-1@%s", {(fs::canonical(root_.path()) / "missing.json").string()});
+  expectThrows(
+      [&] { JsonFileFrame::readFile(root_.file("."), isl::iostreams::basic_file(), neverCalled); },
+      "@90-1@%s", {fs::canonical(root_.path()).string()});
 }
 
 TEST_F(JsonFileFrameTest, ValidateReportsTheJsonPointerAndASchemaByItsCanonicalName)
@@ -113,13 +110,20 @@ TEST_F(JsonFileFrameTest, FailedValidatedWriteLeavesTextUpToTheFailingValue)
   expectSent({{"@75-585@%s", ComMsgMgr::Error, {"NoC Traffic Spec"}}});
 }
 
-TEST_F(JsonFileFrameTest, WriteFileRefusingAnUnopenedStreamNeverBuildsTheText)
+TEST_F(JsonFileFrameTest, WriteFileKeepsTheWritersResultAndBuildsNoTextForARefusedStream)
 {
   bool called = false;
-  const auto writer = [&](std::ostream&) {
+  bool result = false;
+  const auto writer = [&](std::ostream& out) {
     called = true;
-    return true;
+    out << "text";
+    return result;
   };
+  EXPECT_FALSE(JsonFileFrame::writeFile(root_.file("sub/../out.json"),
+                                        JsonFileFrame::OpenCheck::refuseUnopened, writer));
+  EXPECT_EQ(readFile(root_.file("out.json")), "text") << "written by its canonical path";
+  called = false;
+  result = true;
   const std::string unopenable = root_.file("no/such/dir/out.json");
   EXPECT_FALSE(
       JsonFileFrame::writeFile(unopenable, JsonFileFrame::OpenCheck::refuseUnopened, writer));
@@ -128,17 +132,6 @@ TEST_F(JsonFileFrameTest, WriteFileRefusingAnUnopenedStreamNeverBuildsTheText)
       JsonFileFrame::writeFile(unopenable, JsonFileFrame::OpenCheck::writeRegardless, writer));
   EXPECT_TRUE(called) << "the document is still built and validated";
   EXPECT_FALSE(fs::exists(unopenable));
-}
-
-TEST_F(JsonFileFrameTest, WriteFileWritesTheCanonicalPathAndKeepsTheWritersResult)
-{
-  const auto writer = [](std::ostream& out) {
-    out << "text";
-    return false;
-  };
-  EXPECT_FALSE(JsonFileFrame::writeFile(root_.file("sub/../out.json"),
-                                        JsonFileFrame::OpenCheck::refuseUnopened, writer));
-  EXPECT_EQ(testing_support::readFile(root_.file("out.json")), "text");
 }
 
 class NOCJsonReadWriteUtilsTest : public MessageLogTest {};

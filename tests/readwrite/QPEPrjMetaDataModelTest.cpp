@@ -35,10 +35,6 @@ TEST(QPEPrjMetaDataModelTest, WritesEveryTypeInKeyOrderWithExactBytesAndReadsThe
   const std::string text = written(model);
   EXPECT_EQ(written(readText(text)), text);
   EXPECT_EQ(text, readFile(IPCONFIG_RW_TESTS_DATA_DIR "/metadata_all_types.json"));
-}
-
-TEST(QPEPrjMetaDataModelTest, EmptyModelWritesAnEmptyArray)
-{
   EXPECT_EQ(written(QPEPrjMetaDataModel()), "{\n  \"MetaData\": []\n}");
 }
 
@@ -89,7 +85,7 @@ TEST(QPEPrjMetaDataModelTest, FirstMatchingTestDecidesTheHeldType)
   }
 }
 
-TEST(QPEPrjMetaDataModelTest, ReadMergesIntoWhatIsThere)
+TEST(QPEPrjMetaDataModelTest, ReadMergesIntoWhatIsThereAndAFileWithoutMetaDataAddsNothing)
 {
   QPEPrjMetaDataModel model;
   model.addStringProperty("kept", "old");
@@ -97,10 +93,6 @@ TEST(QPEPrjMetaDataModelTest, ReadMergesIntoWhatIsThere)
   model = readText(R"({"MetaData": [{"name": "replaced", "value": 3}]})", model);
   EXPECT_EQ(model.getStringProperty("kept"), "old");
   EXPECT_EQ(model.getIntegrProperty("replaced"), 3);
-}
-
-TEST(QPEPrjMetaDataModelTest, FileWithoutMetaDataReadsAsNoProperty)
-{
   for (const char* text : {"{}", R"({"MetaData": []})", R"({"MetaData": 5})", "[1, 2]"})
     EXPECT_TRUE(readText(text).isEmpty()) << text;
 }
