@@ -37,6 +37,7 @@ run metadata metadata.json
 run logicalarch logical_arch.json
 check traffic traffic.json
 check traffic traffic.json.gz
+run nocconstraints noc_constraints.json
 run constraints constraints.json
 run constraints placement.json
 settle constraints area_groups.json

@@ -32,5 +32,6 @@ Format metadataFormat();
 Format logicalArchFormat();
 Format trafficFormat();
 Format constraintsFormat();
+Format nocConstraintsFormat();
 
 }  // namespace ipconfig_rw
