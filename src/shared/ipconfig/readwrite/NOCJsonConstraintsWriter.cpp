@@ -11,21 +11,14 @@
 
 namespace NOC {
 
-namespace {
-
-using Json = HCRapidJsonReadWriteUtils;
-using IPConfig::JsonFileFrame;
-
-}  // namespace
-
 bool NOCJsonConstraintsWriter::writeToJsonFile(const std::string& path,
                                                const HrdIPToolCntr::Constraints& constraints,
                                                HDGUIStatus& status)
 {
-  return JsonFileFrame::writeFile(path, JsonFileFrame::OpenCheck::writeRegardless,
-                                  [&](std::ostream& out) {
-                                    return writeToJsonFile(out, constraints, status);
-                                  });
+  using Frame = IPConfig::JsonFileFrame;
+  return Frame::writeFile(path, Frame::OpenCheck::writeRegardless, [&](std::ostream& out) {
+    return writeToJsonFile(out, constraints, status);
+  });
 }
 
 bool NOCJsonConstraintsWriter::writeToJsonFile(std::ostream& out,
@@ -38,10 +31,10 @@ bool NOCJsonConstraintsWriter::writeToJsonFile(std::ostream& out,
   JValue placement(rapidjson::kArrayType);
   if (!writePlacement_(constraints, placement, document.GetAllocator()))
     return true;
-  Json::AddGenericValueProperty(document, "Placement", placement, document.GetAllocator());
-  return JsonFileFrame::writeValidated(document, out,
-                                       NOCJsonReadWriteUtils::getConstraintsJsonSchemaFile(),
-                                       "NoC Constraints");
+  HCRapidJsonReadWriteUtils::AddGenericValueProperty(document, "Placement", placement,
+                                                     document.GetAllocator());
+  return IPConfig::JsonFileFrame::writeValidated(
+      document, out, NOCJsonReadWriteUtils::getConstraintsJsonSchemaFile(), "NoC Constraints");
 }
 
 bool NOCJsonConstraintsWriter::writePlacement_(const HrdIPToolCntr::Constraints& constraints,
@@ -61,6 +54,7 @@ bool NOCJsonConstraintsWriter::writePlacement_(const HrdIPToolCntr::Constraints&
       if (component)
         names.push_back(component->getName());
     JValue element(rapidjson::kObjectType);
+    using Json = HCRapidJsonReadWriteUtils;
     Json::AddStringProperty(element, "LogicalInstance", instance->name, alloc);
     Json::AddStringArrayProperty(element, "PhysicalInstance", names, alloc);
     Json::AddBooleanProperty(element, "IsSoft", isSoft, alloc);
