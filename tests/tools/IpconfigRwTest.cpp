@@ -110,6 +110,12 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"nocConstraintsUnwritable", nullptr,
                 "nocconstraints roundtrip $E/noc_constraints.json $D/no/out.json", 1,
                 "nocconstraints: cannot write $D/no/out.json\n"},
+        RunCase{"trafficRoundtrip", nullptr, "traffic roundtrip $E/traffic.json $D/out.json", 0,
+                "traffic $E/traffic.json -> $D/out.json" + trafficCounts},
+        RunCase{"trafficNothingToWrite", R"({"SystemProperties": {"DeviceName": "d"}})",
+                "traffic roundtrip $D/in.json $D/out.json", 1,
+                "traffic: $D/in.json has no instance, no user-set frequency and no DFX path; "
+                "nothing written\n"},
         RunCase{"logicalArchCheck", nullptr, "logicalarch check $E/logical_arch.json", 0,
                 "logicalarch $E/logical_arch.json" + logicalArchCounts},
         RunCase{"logicalArchRoundtrip", nullptr,
