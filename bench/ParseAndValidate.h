@@ -1,8 +1,11 @@
 #pragma once
 
+#include "ForwardingHandler.h"
 #include "HCRapidJsonReadWriteUtils.h"
 
 #include <rapidjson/istreamwrapper.h>
+#include <rapidjson/ostreamwrapper.h>
+#include <rapidjson/prettywriter.h>
 #include <rapidjson/schema.h>
 
 #include <fstream>
@@ -31,5 +34,22 @@ inline bool parseAndValidate(const std::string& text, const std::string& schemaP
   document.ParseStream(wrapper);
   const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
   rapidjson::SchemaValidator validator(*schema);
+  return document.Accept(validator);
+}
+
+// The floor of a writer's time: RapidJSON alone passes `document` through a
+// validator of the schema at `schemaPath` into a pretty writer on `out`, with
+// the indent of the library's files.
+inline bool validateAndPrettyPrint(const JDocument& document, std::ostream& out,
+                                   const std::string& schemaPath)
+{
+  using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
+  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
+  rapidjson::OStreamWrapper wrapper(out);
+  PrettyWriter writer(wrapper);
+  writer.SetIndent(' ', 2);
+  IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
+  rapidjson::GenericSchemaValidator<rapidjson::SchemaDocument, decltype(toWriter)> validator(
+      *schema, toWriter);
   return document.Accept(validator);
 }
