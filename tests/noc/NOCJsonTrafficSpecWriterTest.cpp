@@ -31,8 +31,8 @@ void fillEveryKey(TrafficSpec& spec)
   spec.setSecureMode(true);
   spec.deviceName = "dev";
 
-  TrafficLInst& m1 =
-      *spec.addLogicalInstance("top/m1", Defs::AXI_MM, Defs::PL_NMU, {{"top/x", "top/y"}, {"top/z"}});
+  TrafficLInst& m1 = *spec.addLogicalInstance("top/m1", Defs::AXI_MM, Defs::PL_NMU,
+                                              {{"top/x", "top/y"}, {"top/z"}});
   m1.designName = "m1_design";
   m1.useDestIdIdx = true;
   m1.setHasParityAddr(true);

@@ -53,6 +53,7 @@ void NOCJsonLogicalInstancesWriter::addLogicalInstances(
     const HIPLogicalObjectNameResolverInterface& resolver, JValue& root, JAllocator& alloc)
 {
   JValue elements(rapidjson::kArrayType);
+  elements.Reserve(static_cast<rapidjson::SizeType>(instances.size()), alloc);
   for (const TrafficLInst* instance : instances)
     if (filter(instance))
       elements.PushBack(writeLogicalInstance_(*instance, resolver, alloc), alloc);
@@ -65,7 +66,8 @@ JValue NOCJsonLogicalInstancesWriter::writeLogicalInstance_(
 {
   const std::string writtenName = NOCJsonScopedNames::instanceName(resolver, instance);
   const bool outside = !resolver.isPropertyValueWithinScope(instance.name);
-  const NOCJsonScopedNames::ExternalConn conn = NOCJsonScopedNames::externalConn(resolver, instance);
+  const NOCJsonScopedNames::ExternalConn conn =
+      NOCJsonScopedNames::externalConn(resolver, instance);
 
   JValue object(rapidjson::kObjectType);
   Json::AddStringProperty(object, "Name", outside ? conn.firstName : writtenName, alloc);

@@ -153,6 +153,7 @@ void NOCJsonTrafficSpecWriter::writePaths_(const TrafficSpec& spec, const Filter
                                            JValue& root, JAllocator& alloc)
 {
   JValue paths(rapidjson::kArrayType);
+  paths.Reserve(static_cast<rapidjson::SizeType>(spec.getNumPaths()), alloc);
   for (int index = 0; index < spec.getNumPaths(); ++index) {
     const TrafficPath& path = *spec.getPath(index);
     if (!filter(path.master) || !filter(path.slave))
