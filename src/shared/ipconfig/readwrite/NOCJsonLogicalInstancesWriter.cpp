@@ -49,7 +49,7 @@ void addIfNotEmpty(JValue& object, const char* key, const std::map<std::string, 
 }  // namespace
 
 void NOCJsonLogicalInstancesWriter::addLogicalInstances(
-    const std::vector<const TrafficLInst*>& instances, const Filter& filter,
+    const std::vector<const TrafficLInst*>& instances, const TrafficSpecFilter& filter,
     const HIPLogicalObjectNameResolverInterface& resolver, JValue& root, JAllocator& alloc)
 {
   JValue elements(rapidjson::kArrayType);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "AllTrafficSpecFilterObj.h"
 #include "HCRapidJsonReadWriteUtils.h"
 #include "ipconfig_readwrite_export.h"
 
-#include <functional>
 #include <vector>
 
 class HIPLogicalObjectNameResolverInterface;
@@ -20,12 +20,10 @@ namespace NOC {
 // written under the first of its connections inside it, as virtual.
 class IPCONFIG_READWRITE_EXPORT NOCJsonLogicalInstancesWriter {
 public:
-  using Filter = std::function<bool(const HrdIPToolCntr::TrafficLInst*)>;
-
   // Adds the array to `root`, even when empty. An empty filter throws
   // std::bad_function_call at the first instance.
   static void addLogicalInstances(const std::vector<const HrdIPToolCntr::TrafficLInst*>& instances,
-                                  const Filter& filter,
+                                  const TrafficSpecFilter& filter,
                                   const HIPLogicalObjectNameResolverInterface& resolver,
                                   JValue& root, JAllocator& alloc);
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "AllTrafficSpecFilterObj.h"
 #include "HCRapidJsonReadWriteUtils.h"
 #include "ipconfig_readwrite_export.h"
 
-#include <functional>
 #include <iosfwd>
 #include <string>
 
@@ -30,7 +30,7 @@ namespace NOC {
 // value.
 class IPCONFIG_READWRITE_EXPORT NOCJsonTrafficSpecWriter {
 public:
-  using Filter = std::function<bool(const HrdIPToolCntr::TrafficLInst*)>;
+  using Filter = TrafficSpecFilter;
 
   bool writeToJsonFile(std::ostream& out, const HrdIPToolCntr::TrafficSpec& spec,
                        const Filter& filter, HIPLogicalObjectNameResolverInterface& resolver,
