@@ -16,6 +16,7 @@
 #include <fstream>
 #include <map>
 #include <string>
+#include <utility>
 
 // ConstrHandler::read and write of generated constraints files, each timed
 // beside its floor on the same file in the same iteration: RapidJSON alone
@@ -53,12 +54,23 @@ std::string makeConstraints(int count)
          sections[1] + "\n  },\n  \"NetConstraints\": {" + sections[2] + "\n  }\n}\n";
 }
 
+// `count` attributes, all on one node.
+std::string makeOneObject(int count)
+{
+  std::string attrs;
+  for (int i = 0; i < count; ++i)
+    attrs += (i ? ",\n      \"key_" : "\n      \"key_") + std::to_string(i) +
+             "\": " + std::to_string(i);
+  return "{\n  \"NodeConstraints\": {\n    \"top/inst\": {" + attrs + "\n    }\n  }\n}\n";
+}
+
 // A generated file in a directory of its own, for as long as it is needed.
 class GeneratedFile {
 public:
-  explicit GeneratedFile(int count)
+  explicit GeneratedFile(int count) : GeneratedFile(makeConstraints(count)) {}
+  explicit GeneratedFile(std::string content)
       : dir(fs::temp_directory_path() / fs::unique_path("ipconfig-rw-bench-%%%%-%%%%")),
-        text(makeConstraints(count))
+        text(std::move(content))
   {
     fs::create_directories(dir);
     std::ofstream(path()) << text;
@@ -128,6 +140,25 @@ void BM_ConstrFileRead(benchmark::State& state)
 BENCHMARK(BM_ConstrFileRead)
     ->Arg(1000)
     ->Arg(10000)
+    ->Arg(100000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// The worst case of one object: time per attribute stays flat as it grows.
+void BM_ConstrFileReadOneObject(benchmark::State& state)
+{
+  ComMsgMgr::setConsole(nullptr);
+  const GeneratedFile file(makeOneObject(static_cast<int>(state.range(0))));
+  for (auto _ : state) {
+    ConstrHandler handler;
+    const double read = seconds([&] { handler.read(file.path()); });
+    state.SetIterationTime(read);
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(BM_ConstrFileReadOneObject)
+    ->Arg(10000)
+    ->Arg(30000)
     ->Arg(100000)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);

@@ -113,4 +113,28 @@ void BM_StoreClear(benchmark::State& state)
 }
 BENCHMARK(BM_StoreClear)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
+// One group grown by single adds, as a reader merging entries of one name
+// does: time per node stays flat as the group grows.
+void BM_AreaGroupSingleAdds(benchmark::State& state)
+{
+  std::vector<std::string> nodes;
+  for (int i = 0; i < state.range(0); ++i)
+    nodes.push_back("node_" + std::to_string(i));
+  for (auto _ : state) {
+    ConstrHandler handler;
+    for (const std::string& node : nodes)
+      handler.addAreaGroupConstr("group", {node}, {}, false, false, false, false, false);
+    benchmark::DoNotOptimize(handler.size());
+    state.PauseTiming();
+    handler.clear();
+    state.ResumeTiming();
+  }
+  setItems(state);
+}
+BENCHMARK(BM_AreaGroupSingleAdds)
+    ->Arg(10000)
+    ->Arg(30000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond);
+
 }  // namespace

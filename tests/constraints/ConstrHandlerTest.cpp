@@ -120,6 +120,34 @@ TEST(ConstrHandlerTest, UnloadLeavesAnEmptyEntry)
   EXPECT_TRUE(out.empty()) << "but the object is known";
 }
 
+TEST(ConstrHandlerTest, LookupsFindTheFirstThatIsLeftAfterUnload)
+{
+  ConstrHandler handler;
+  handler.setAttrConstr(Base::NODE, "n", "a", 1);
+  handler.createAttrConstr(Base::NODE, "n", HATAttrTypes::AttrInt, "B");
+  handler.createAttrConstr(Base::NODE, "n", HATAttrTypes::AttrInt, "b");
+  handler.setTileConstr("n", 1, 2, PhysicalSpec::Core);
+  handler.setTileConstr("m", 3, 4, PhysicalSpec::Core);
+  const Constrs all = handler.getConstrs();
+
+  EXPECT_EQ(handler.getConstr("n", "QPE.b"), all[1]);
+  EXPECT_EQ(handler.getConstr("n", Base::Attr), all[0]);
+  handler.unload(all[1]);
+  EXPECT_EQ(handler.getConstr("n", "qpe.B"), all[2]);
+  handler.unload(all[0]);
+  EXPECT_EQ(handler.getConstr("n", Base::Attr), all[2]);
+  EXPECT_EQ(handler.getConstr("n", "a"), nullptr);
+  handler.unload(all[2]);
+  EXPECT_EQ(handler.getConstr("n", "b"), nullptr);
+  EXPECT_EQ(handler.getConstr("n", Base::Attr), nullptr);
+  EXPECT_EQ(handler.getConstr("n", Base::Tile), all[3]);
+
+  // Moved entries keep their lookups under the new name.
+  handler.renamePorts({{"m", "n"}});
+  EXPECT_EQ(handler.getConstr("n", Base::Tile), all[4]);
+  EXPECT_EQ(handler.getConstr("n", "qpe.tile"), all[4]);
+}
+
 TEST(ConstrHandlerTest, RenamePortsMovesIndexEntries)
 {
   ConstrHandler handler;

@@ -115,7 +115,7 @@ std::string AreaGroupConstr::str() const
 {
   std::ostringstream out;
   out << " areaGroup(" << getObjName() << ")=(";
-  for (const std::string& node : nodeGroup.getStringVecVal())
+  for (const std::string& node : nodeGroup)
     out << node << ",";
   out << ")(";
   for (const PhysicalRange& range : physicalGroup)
@@ -129,12 +129,12 @@ std::string AreaGroupConstr::str() const
 
 void AreaGroupConstr::getNodeGroup(std::vector<std::string>& out) const
 {
-  out = nodeGroup.getStringVecVal();
+  out = nodeGroup;
 }
 
 std::vector<std::string> AreaGroupConstr::getNodeGroup() const
 {
-  return nodeGroup.getStringVecVal();
+  return nodeGroup;
 }
 
 void AreaGroupConstr::getPhysicalGroup(std::vector<PhysicalRange>& out) const
@@ -159,19 +159,11 @@ void AreaGroupConstr::addNode(const std::string& name)
   addNodeGroup({name});
 }
 
-// The host's list is copied to be changed, so the new names go in at once.
 void AreaGroupConstr::addNodeGroup(const std::vector<std::string>& names)
 {
-  std::vector<std::string> nodes;
-  for (const std::string& name : names) {
-    if (!nodeNames.insert(name).second)
-      continue;
-    if (nodes.empty())
-      nodes = nodeGroup.getStringVecVal();
-    nodes.push_back(name);
-  }
-  if (!nodes.empty())
-    nodeGroup.setStringVecVal(nodes);
+  for (const std::string& name : names)
+    if (nodeNames.insert(name).second)
+      nodeGroup.push_back(name);
 }
 
 void AreaGroupConstr::setNodeGroup(const std::vector<std::string>& names)
@@ -220,7 +212,7 @@ void AreaGroupConstr::setPhysicalGroup(const std::vector<PhysicalRange>& ranges)
 
 bool AreaGroupConstr::isNodeGroupSet() const
 {
-  return nodeGroup.isSet();
+  return !nodeGroup.empty();
 }
 
 bool AreaGroupConstr::isPhysicalGroupSet() const

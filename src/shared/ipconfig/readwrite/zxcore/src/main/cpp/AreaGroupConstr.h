@@ -71,8 +71,9 @@ private:
   std::vector<PhysicalRange> physicalGroup;
   AttrValue groupName;
   Flags flags;
-  AttrValue nodeGroup{HATAttrTypes::AttrStringList};
-  // The names of the node group, so that an add need not walk the list.
+  // The node names in order, and as a set so that an add need not walk the
+  // list: a group grown one node at a time stays linear.
+  std::vector<std::string> nodeGroup;
   std::unordered_set<std::string> nodeNames;
 };
 

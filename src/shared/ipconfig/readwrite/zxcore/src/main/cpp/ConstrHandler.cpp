@@ -38,15 +38,6 @@ HEXAlgException unsupportedType(const char* operation, BaseConstraint::ConstrTyp
                          BaseConstraint::getConstrTypeAsStr(constrType) + "'");
 }
 
-bool removeFirst(ConstrHandler::Constrs& constrs, const BaseConstraint* constr)
-{
-  const auto found = std::find(constrs.begin(), constrs.end(), constr);
-  if (found == constrs.end())
-    return false;
-  constrs.erase(found);
-  return true;
-}
-
 }  // namespace
 
 template <typename Kind, typename... Args>
@@ -63,7 +54,7 @@ void ConstrHandler::destroy_(BaseConstraint* constr)
   delete constr;
 }
 
-const ConstrHandler::Constrs* ConstrHandler::entry_(const std::string& objName) const
+const ObjectConstrs* ConstrHandler::entry_(const std::string& objName) const
 {
   const auto entry = objects.find(objName);
   return entry == objects.end() ? nullptr : &entry->second;
@@ -73,7 +64,7 @@ template <typename Kind>
 Kind* ConstrHandler::firstOfKind_(const std::string& objName,
                                   Kind* (*cast)(BaseConstraint*)) const
 {
-  if (const Constrs* entry = entry_(objName))
+  if (const ObjectConstrs* entry = entry_(objName))
     for (BaseConstraint* constr : *entry)
       if (Kind* kind = cast(constr))
         return kind;
@@ -85,11 +76,7 @@ Kind* ConstrHandler::firstGroup_(ConstrType groupType, const std::string& name,
                                  Kind* (*cast)(BaseConstraint*)) const
 {
   const auto entry = groups.find(name);
-  if (entry != groups.end())
-    for (BaseConstraint* constr : entry->second)
-      if (constr->getConstrType() == groupType)
-        return cast(constr);
-  return nullptr;
+  return entry == groups.end() ? nullptr : cast(entry->second.firstOfType(groupType));
 }
 
 template <typename Find, typename Create>
@@ -162,12 +149,12 @@ void ConstrHandler::copy_(const ConstrHandler& from, const BaseNameResolver* res
 
 void ConstrHandler::unfile_(Index& index, const std::string& name, const BaseConstraint* constr)
 {
-  if (removeFirst(index[name], constr))
+  if (index[name].remove(constr))
     return;
   // Filed under another name: renamePorts moves entries by name, and an
   // entry can hold constraints of other objects of the old name.
   for (auto& entry : index)
-    if (removeFirst(entry.second, constr))
+    if (entry.second.remove(constr))
       return;
 }
 
@@ -261,9 +248,9 @@ void ConstrHandler::getConstrs(Constrs& out) const
 
 void ConstrHandler::getConstrs(const std::string& objName, Constrs& out) const
 {
-  const Constrs* entry = entry_(objName);
+  const ObjectConstrs* entry = entry_(objName);
   if (entry && !entry->empty())
-    out = *entry;
+    out = entry->all();
 }
 
 void ConstrHandler::getConstrs(ObjectType objType, Constrs& out) const
@@ -275,7 +262,7 @@ void ConstrHandler::getConstrs(ObjectType objType, Constrs& out) const
 void ConstrHandler::getConstrs(const std::string& objName, const std::string& constrName,
                                Constrs& out) const
 {
-  const Constrs* entry = entry_(objName);
+  const ObjectConstrs* entry = entry_(objName);
   if (!entry)
     return;
   out.clear();
@@ -286,35 +273,25 @@ void ConstrHandler::getConstrs(const std::string& objName, const std::string& co
 
 BaseConstraint* ConstrHandler::getConstr(const std::string& objName, ConstrType constrType) const
 {
-  if (const Constrs* entry = entry_(objName))
-    for (BaseConstraint* constr : *entry)
-      if (constr->getConstrType() == constrType)
-        return constr;
-  return nullptr;
+  const ObjectConstrs* entry = entry_(objName);
+  return entry ? entry->firstOfType(constrType) : nullptr;
 }
 
 BaseConstraint* ConstrHandler::getConstr(const std::string& objName,
                                          const std::string& constrName) const
 {
-  const Constrs* entry = entry_(objName);
+  const ObjectConstrs* entry = entry_(objName);
   if (!entry)
     return nullptr;
-  // One walk for both names: the given name wins over the canonical one.
-  const std::string canonical = AttrConstr::makeCanonicalAttrName(constrName);
-  BaseConstraint* byCanonical = nullptr;
-  for (BaseConstraint* constr : *entry) {
-    if (iequals(constr->getConstrName(), constrName))
-      return constr;
-    if (!byCanonical && iequals(constr->getConstrName(), canonical))
-      byCanonical = constr;
-  }
-  return byCanonical;
+  if (BaseConstraint* named = entry->firstNamed(constrName))
+    return named;
+  return entry->firstNamed(AttrConstr::makeCanonicalAttrName(constrName));
 }
 
 void ConstrHandler::getConstrs(const std::string& objName, ConstrType constrType,
                                Constrs& out) const
 {
-  const Constrs* entry = entry_(objName);
+  const ObjectConstrs* entry = entry_(objName);
   if (!entry)
     return;
   out.clear();
@@ -625,9 +602,9 @@ void ConstrHandler::addConstraint(BaseConstraint* constr)
   constrs.push_back(constr);
   objTypes.push_back(constr->getObjType());
   const std::string name = constr->getObjName();
-  objects[name].push_back(constr);
+  objects[name].add(constr);
   if (isGroup(constr->getConstrType()))
-    groups[name].push_back(constr);
+    groups[name].add(constr);
 }
 
 BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType objType,
@@ -700,7 +677,7 @@ void ConstrHandler::renamePorts(const std::map<std::string, std::string>& oldToN
     const auto entry = objects.find(oldName);
     if (entry == objects.end() || entry->second.empty())
       continue;
-    Constrs moved = std::move(entry->second);
+    ObjectConstrs moved = std::move(entry->second);
     objects.erase(entry);
     objects[newName] = std::move(moved);
   }

@@ -5,6 +5,7 @@
 #include "BaseConstraint.h"
 #include "ConstrForward.h"
 #include "FifoLocationsRecords.h"
+#include "ObjectConstrs.h"
 #include "PhysicalRange.h"
 #include "PhysicalSpec.h"
 #include "ipconfig_readwrite_export.h"
@@ -198,14 +199,14 @@ public:
   void renamePorts(const std::map<std::string, std::string>& oldToNew);
 
 private:
-  using Index = std::unordered_map<std::string, Constrs>;
+  using Index = std::unordered_map<std::string, ObjectConstrs>;
 
   // The only places where constraints are made and deleted.
   template <typename Kind, typename... Args>
   Kind* make_(Args&&... args);
   static void destroy_(BaseConstraint* constr);
 
-  const Constrs* entry_(const std::string& objName) const;
+  const ObjectConstrs* entry_(const std::string& objName) const;
   template <typename Kind>
   Kind* firstOfKind_(const std::string& objName, Kind* (*cast)(BaseConstraint*)) const;
   template <typename Kind>
