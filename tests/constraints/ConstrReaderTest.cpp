@@ -1,5 +1,6 @@
 #include "ConstrSupport.h"
 
+#include "AreaGroupConstr.h"
 #include "AttrConstr.h"
 #include "ConstrReader.h"
 #include "SchemaFile.h"
@@ -300,12 +301,8 @@ const FailureCase failures[] = {
     {"MissingFile", nullptr, Schema::shipped, true, "@90-1@%s", {"$F"}},
     {"SyntaxError", R"({"NodeConstraints": {"n": {"a": 1,}}})", Schema::shipped, false,
      "@90-2@%s%s", {"$F", "Missing a name for object member. (offset 34)"}},
-    {"RootKeyType", R"({"isSoft": "yes"})", Schema::shipped, true, violation,
-     {"$F", "/properties/isSoft", "type", "/isSoft"}},
     {"SectionNotAnObject", R"({"NodeConstraints": []})", Schema::shipped, true, violation,
      {"$F", "/properties/NodeConstraints", "type", "/NodeConstraints"}},
-    {"MemNotAnArray", R"({"NodeConstraints": {"n": {"mem": {}}}})", Schema::shipped, true,
-     violation, {"$F", "/definitions/addresses", "type", "/NodeConstraints/n/mem"}},
     {"SrcInfoLineNegative", R"({"NodeConstraints": {"n": {"k_src_info": {"line": -1}}}})",
      Schema::shipped, true, violation,
      {"$F", "", "patternProperties", "/NodeConstraints/n/k_src_info"}},
@@ -316,11 +313,7 @@ const FailureCase failures[] = {
     {"PortLocChannelNotAnInteger", R"({"PortConstraints": {"p": {"port_loc": {"channel": "2"}}}})",
      Schema::shipped, true, violation,
      {"$F", "/definitions/portLoc/properties/channel", "type",
-      "/PortConstraints/p/port_loc/channel"}},
-    {"GroupLocationNotALocation",
-     R"({"GlobalConstraints": {"areaGroup": {"name": "a"}, "areaGroup": {"tileGroup": [true]}}})",
-     Schema::shipped, true, violation,
-     {"$F", "/definitions/locations/items", "type", "/GlobalConstraints/areaGroup/tileGroup/0"}}};
+      "/PortConstraints/p/port_loc/channel"}}};
 
 INSTANTIATE_TEST_SUITE_P(Failures, ConstrReaderFailureTest, ::testing::ValuesIn(failures),
                          [](const auto& info) { return info.param.name; });
@@ -358,6 +351,65 @@ TEST(SchemaFileTest, TheNewNameWinsThenTheOldPathThenNothing)
   boost::filesystem::remove(old);
   tree.hide(oldSchemaName);
   EXPECT_EQ(SchemaFile::getConstraintsSchema(), "");
+}
+
+// Values that the reader passes over or reports on its own reach it through
+// the validation: the user sees the reader's message, not the schema's.
+TEST_F(ConstrReaderTest, ValuesTheReaderToleratesPassTheSchema)
+{
+  const struct {
+    const char* name;
+    std::string text;
+    std::vector<ExpectedMsg> expected;
+    std::size_t size;
+  } cases[] = {
+      {"flags of other types read as false",
+       R"j({"isToolGenerated": "true", "isSoft": 1, "GlobalConstraints": {"areaGroup":
+           {"name": "g", "exclude": "true", "issoft": 1, "contain_routing": null,
+            "exclusive_routing": {}, "exclusive_placement": [true], "nodeGroup": ["a"]}}})j",
+       {},
+       1},
+      {"mem that is no array",
+       R"j({"NodeConstraints": {"n": {"mem": 5, "a": 1}}})j",
+       {{"@75-579@%s%s", Mask::CriticalWarning, {file, "n"}}},
+       1},
+      {"buffers that are no array",
+       R"j({"PortConstraints": {"p": {"buffers": {"column": 1}, "a": 1}}})j",
+       {{"@75-579@%s%s", Mask::CriticalWarning, {file, "p"}}},
+       1},
+      {"group locations of no text",
+       R"j({"GlobalConstraints": {"areaGroup": {"name": "g", "nodeGroup": ["a"],
+           "tileGroup": [true], "shimGroup": [null], "memGroup": [false, "(1,0)"]}}})j",
+       {{"@75-588@%s%s", Mask::CriticalWarning, {file, "g"}},
+        {"@75-587@%s%s", Mask::CriticalWarning, {file, "g"}},
+        {"@75-747@%s%s", Mask::CriticalWarning, {file, "g"}}},
+       1},
+      {"group keys that are no arrays",
+       R"j({"GlobalConstraints": {"areaGroup": {"name": "g", "tileGroup": true,
+           "shimGroup": null, "memGroup": "(1,0)"}}})j",
+       {},
+       1},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    ComMsgLog::clear();
+    ConstrHandler store;
+    store.read(put(c.text));
+    expectSent(c.expected);
+    EXPECT_EQ(store.size(), c.size);
+  }
+
+  ConstrHandler store;
+  store.read(put(cases[0].text));
+  const AreaGroupConstr* group = store.getAreaGroupConstr("g");
+  ASSERT_NE(group, nullptr);
+  const AreaGroupConstr::Flags& flags = group->getFlags();
+  EXPECT_FALSE(flags.exclude || flags.isSoft || flags.containRouting || flags.exclusiveRouting ||
+               flags.exclusivePlacement);
+  EXPECT_EQ(store.getConstr("g", BaseConstraint::AreaGroup), group);
+
+  store.read(put(cases[3].text));
+  EXPECT_EQ(group->getPhysicalGroup().size(), 1u) << "the good element is kept";
 }
 
 }  // namespace
