@@ -233,7 +233,9 @@ TEST_F(NOCJsonTrafficSpecReaderTest, PathsTakeTheirFiguresPhasesAndMastersTraffi
                {"From": "m", "To": "n", "Port": "PORT0"},
                {"From": "s", "To": "s", "Port": "PORT0"},
                {"From": "st", "To": "s", "Port": "PORT0", "CommType": "STRM", "ReadBW": 9,
-                "ReadAvgBurst": 9, "WriteBW": 8, "WriteAvgBurst": 7})"));
+                "ReadAvgBurst": 9, "WriteBW": 8, "WriteAvgBurst": 7, "ReadLatency": 11,
+                "WriteLatency": 12, "PhaseGroups": [{"Name": "H", "Phases": [
+                  {"Name": "Q1", "ReadBW": 3, "WriteBW": 2}]}]})"));
   ASSERT_EQ(spec.getNumPaths(), 3);  // the paths to "n" and from "s" vanish without a word
   expectSent({});
   const TrafficPath& mm = *spec.getPath(0);
@@ -257,6 +259,10 @@ TEST_F(NOCJsonTrafficSpecReaderTest, PathsTakeTheirFiguresPhasesAndMastersTraffi
   EXPECT_EQ(stream.getWritePerfSpec().bandwidth, 8u);
   EXPECT_EQ(stream.getWriteAvgBurst(), 7);
   EXPECT_EQ(stream.getNumNets(), 1);
+  // A stream's phases still take the path's read latency from the file.
+  EXPECT_EQ(stream.getReadPerfSpec("Q1").bandwidth, 3u);
+  EXPECT_EQ(stream.getReadPerfSpec("Q1").latency, 11u);
+  EXPECT_EQ(stream.getWritePerfSpec("Q1").latency, 12u);
 }
 
 TEST_F(NOCJsonTrafficSpecReaderTest, NamesPassThroughTheResolver)

@@ -402,9 +402,13 @@ void NOCJsonTrafficSpecReader::readDestIdIndex_(const JValue& element,
 void NOCJsonTrafficSpecReader::readPhaseGroups_(const JValue& element,
                                                 HrdIPToolCntr::TrafficPath& path)
 {
-  // A phase has no latency of its own: it takes the path's.
-  const std::uint32_t readLatency = path.getReadPerfSpec().latency;
-  const std::uint32_t writeLatency = path.getWritePerfSpec().latency;
+  // A phase has no latency of its own: it takes the path's from the file,
+  // which holds for a stream too although its read side is not set.
+  const auto latency = [&](const char* key) {
+    return static_cast<std::uint32_t>(Json::GetULongProperty(element, key));
+  };
+  const std::uint32_t readLatency = latency("ReadLatency");
+  const std::uint32_t writeLatency = latency("WriteLatency");
   forEachObject(element, "PhaseGroups", [&](const JValue& group) {
     const std::string groupName = Json::GetStringProperty(group, "Name");
     forEachObject(group, "Phases", [&](const JValue& phase) {
