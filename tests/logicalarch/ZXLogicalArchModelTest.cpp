@@ -86,6 +86,37 @@ TEST(ZXLogicalArchLInstTest, PortLookupsKeepTheirFirstAndLastMatches)
   EXPECT_EQ(first->owner, array);
 }
 
+// Renames the ports of a connection from the connection's side.
+class ConnectionPortsRenamer : public SuffixRenamer {
+public:
+  std::string rename(ZXLogicalConnection* connection) override
+  {
+    connection->srcPort->name += "_c";
+    for (ZXLogicalPort* port : connection->dstPorts)
+      port->name += "_c";
+    return connection->name;
+  }
+};
+
+TEST(ZXLogicalArchLInstTest, PortLookupByNameFollowsARenameThroughTheConnection)
+{
+  ZXLogicalArchModel model;
+  ZXLogicalZXIPInstance* array = model.addZXIPInstance("array");
+  ZXLogicalPLIPInstance* kernel = model.addPLIPInstance("k");
+  ZXLogicalPort* source = array->addPort("s");
+  ZXLogicalPort* sink = model.addPLPort("d", kernel);
+  ZXLogicalConnection* connection = connect(model, "c", source, {sink});
+  EXPECT_EQ(array->getLogicalPortByName("s"), source);
+  EXPECT_EQ(kernel->getLogicalPortByName("d"), sink);
+
+  ConnectionPortsRenamer renamer;
+  connection->rename(renamer);
+  EXPECT_EQ(array->getLogicalPortByName("s_c"), source);
+  EXPECT_EQ(array->getLogicalPortByName("s"), nullptr);
+  EXPECT_EQ(kernel->getLogicalPortByName("d_c"), sink);
+  EXPECT_EQ(model.getLogicalPortByName("d_c", PL_INSTANCE), sink);
+}
+
 TEST(ZXLogicalArchLInstTest, AnnotationSearchesTrySoftwareFirstAndTheSmallestAnnotation)
 {
   ZXLogicalArchModel model;

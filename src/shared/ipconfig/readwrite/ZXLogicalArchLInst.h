@@ -84,6 +84,7 @@ protected:
 private:
   friend class ZXLogicalArchModel;
   friend class ZXLogicalPort;
+  friend class ZXLogicalConnection;
 
   void clear_();
   void resetNameToObjectMaps_();

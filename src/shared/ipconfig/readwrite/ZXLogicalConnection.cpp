@@ -1,5 +1,6 @@
 #include "ZXLogicalConnection.h"
 
+#include "ZXLogicalArchLInst.h"
 #include "ZXLogicalArchModelRenameInterface.h"
 #include "ZXLogicalArchModelVisitorInterface.h"
 
@@ -34,6 +35,14 @@ void ZXLogicalConnection::accept(const ZXLogicalArchModelVisitorInterface& visit
 void ZXLogicalConnection::rename(ZXLogicalArchModelRenameInterface& renamer)
 {
   renamer.rename(this);
+  // The renamer may rename the ports from here too: their owners look again.
+  const auto portMayBeRenamed = [](ZXLogicalPort* port) {
+    if (port && port->owner)
+      port->owner->portRenamed_();
+  };
+  portMayBeRenamed(srcPort);
+  for (ZXLogicalPort* port : dstPorts)
+    portMayBeRenamed(port);
 }
 
 std::size_t ZXLogicalConnection::getDstPorts(std::vector<ZXLogicalPort*>& out) const
