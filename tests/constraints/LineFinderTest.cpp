@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <random>
 #include <tuple>
+#include <type_traits>
 
 namespace {
 
@@ -89,6 +90,23 @@ TEST(LineFinderTest, HandWrittenCasesAgreeWithTheScan)
   EXPECT_EQ(indexed(finder, "a", "NetConstraints"), (Location{false, 7, 7}));
   expectSameAsScan(path, {"", "n", "k", "a", "label", "other", "x", "q\\", "q\\\"x", "\\\"",
                           "say \\\"hi\\\"", "sp ace", ": ", "NodeConstraints", "}", "\r"});
+}
+
+TEST(LineFinderTest, HoldsViewsIntoItsOwnTextSoItIsNeitherCopiedNorMoved)
+{
+  EXPECT_FALSE(std::is_copy_constructible_v<LineFinder>);
+  EXPECT_FALSE(std::is_copy_assignable_v<LineFinder>);
+  EXPECT_FALSE(std::is_move_constructible_v<LineFinder>);
+  EXPECT_FALSE(std::is_move_assignable_v<LineFinder>);
+}
+
+TEST(LineFinderTest, ALastLineWithoutALineEndIsIndexed)
+{
+  const TempDir dir;
+  const std::string path = dir.file("c.json");
+  writeFile(path, "{\"n\":\n {\"k\": 1}}");
+  LineFinder finder(path);
+  EXPECT_EQ(indexed(finder, "n", "k"), (Location{true, 2, 3}));
 }
 
 // Lines of quoted texts drawn from a small vocabulary, so that texts repeat

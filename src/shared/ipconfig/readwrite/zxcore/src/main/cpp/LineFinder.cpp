@@ -102,7 +102,8 @@ void LineFinder::index_()
       }
       open = close;
     }
-    start = stop + 1;
+    // The last line may have no line end: stop at the end, never past it.
+    start = newline ? newline + 1 : end;
   }
   placeStarts.assign(lastLines.size() + 1, 0);
   for (const Found& each : found)

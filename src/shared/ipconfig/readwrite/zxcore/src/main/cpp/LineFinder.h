@@ -26,6 +26,10 @@ public:
   // last are reported at each lookup, with "@75-857@" and "@75-856@%s"
   // (warnings).
   explicit LineFinder(const std::string& path);
+  // The index holds views into the text it owns: a copy or a move would
+  // leave them pointing into another object.
+  LineFinder(const LineFinder&) = delete;
+  LineFinder& operator=(const LineFinder&) = delete;
 
   // Looks for each non-empty text in turn, quoted, each on a line after the
   // line of the one before it (the first from the top of the file). When all
