@@ -35,6 +35,10 @@ settle() {
 
 run metadata metadata.json
 run logicalarch logical_arch.json
+"$tool" partition write "$examples/logical_arch.json" "$out/partition.json" \
+  --array-start 0 --array-size 50 --partition-start 10 --partition-size 4 \
+  --uuid 12345678-9abc-def0-1234-56789abcdef0 --intf-id 0x2a --namespace radar
+cmp "$examples/partition.json" "$out/partition.json"
 run traffic traffic.json
 check traffic traffic.json.gz
 # The compressed copy still joins its connection groups without a blank; its

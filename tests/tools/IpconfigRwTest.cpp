@@ -124,6 +124,40 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"logicalArchEmpty", R"({"appId": "a"})",
                 "logicalarch roundtrip $D/in.json $D/out.json", 1,
                 "logicalarch: $D/in.json has no instance and no connection; nothing written\n"},
+        RunCase{"partitionWrite", nullptr,
+                "partition write $E/logical_arch.json $D/out.json --array-start 0 "
+                "--array-size 50 --partition-start=10 --partition-size 4 "
+                "--uuid 12345678-9abc-def0-1234-56789abcdef0 --intf-id 0x2a --namespace radar "
+                "&& cmp $E/partition.json $D/out.json",
+                0, "partition $E/logical_arch.json -> $D/out.json: 1 compute arrays\n"},
+        RunCase{"partitionWholeArray", nullptr,
+                "partition write $E/logical_arch.json $D/out.json --array-start 6 "
+                "--array-size 10 && cat $D/out.json",
+                0,
+                "partition $E/logical_arch.json -> $D/out.json: 1 compute arrays\n"
+                "{\n  \"QPE\": {\n    \"top/array\": {\n      \"startColumn\": 6,\n"
+                "      \"numColumns\": 10,\n      \"partitions\": [\n        {\n"
+                "          \"startColumn\": 6,\n          \"numColumns\": 10,\n"
+                "          \"uuid\": \"0x\",\n          \"qpe_pl_intf_id\": \"0x00000000\",\n"
+                "          \"namespace\": \"\"\n        }\n      ]\n    }\n  }\n}"},
+        RunCase{"partitionMissingOption", nullptr,
+                "partition write $E/logical_arch.json $D/out.json --array-size 10", 2,
+                "ipconfig-rw: partition write needs the option '--array-start'\n", true},
+        RunCase{"partitionBadNumber", nullptr,
+                "partition write $E/logical_arch.json $D/out.json --array-start 1 "
+                "--array-size 10 --intf-id -1",
+                2, "option '--intf-id': '-1' is not a number from 0 to 4294967295", true},
+        RunCase{"partitionBadUuid", nullptr,
+                "partition write $E/logical_arch.json $D/out.json --array-start 1 "
+                "--array-size 10 --uuid 123",
+                2, "option '--uuid': '123' is not hexadecimal digits in words of eight", true},
+        RunCase{"partitionUnknownOption", nullptr,
+                "partition write $E/logical_arch.json $D/out.json --array-begin 1", 2,
+                "unknown option '--array-begin' for write", true},
+        RunCase{"partitionUnwritable", nullptr,
+                "partition write $E/logical_arch.json $D/no/out.json --array-start 0 "
+                "--array-size 1",
+                1, "partition: cannot write $D/no/out.json\n"},
         RunCase{"constraintsCheck", nullptr, "constraints check $E/constraints.json", 0,
                 "constraints $E/constraints.json" + constraintsCounts},
         RunCase{"constraintsRoundtrip", nullptr,

@@ -10,6 +10,7 @@ const std::vector<Format>& allFormats()
       trafficFormat(),
       nocConstraintsFormat(),
       logicalArchFormat(),
+      partitionFormat(),
   };
   return formats;
 }

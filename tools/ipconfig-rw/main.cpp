@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,17 @@ void printUsage(std::ostream& out)
       out << "    ipconfig-rw " << format.name << ' ' << command.name;
       for (const std::string& arg : command.argNames)
         out << ' ' << arg;
+      for (const Option& option : command.options)
+        out << (option.defaultValue ? " [--" : " --") << option.name << ' ' << option.valueName
+            << (option.defaultValue ? "]" : "");
       out << "\n        " << command.help << '\n';
+      for (const Option& option : command.options) {
+        out << "        --" << option.name << ' ' << option.valueName << ": " << option.help;
+        if (option.defaultValue)
+          out << (option.defaultValue->empty() ? " (optional)"
+                                               : " (default " + *option.defaultValue + ")");
+        out << '\n';
+      }
     }
   }
   out << "\nExit codes: 0 ok, 1 bad input or failed write, 2 usage.\n";
@@ -46,6 +57,45 @@ const Item* findByName(const std::vector<Item>& items, const std::string& name)
   return found == items.end() ? nullptr : &*found;
 }
 
+// The positional arguments of `command` followed by the value of each of its
+// options, in the order the command declares them.
+std::vector<std::string> commandArguments(const Command& command,
+                                          std::vector<std::string>::const_iterator arg,
+                                          std::vector<std::string>::const_iterator end)
+{
+  std::vector<std::string> positional;
+  std::vector<std::optional<std::string>> values(command.options.size());
+  for (; arg != end; ++arg) {
+    if (arg->rfind("--", 0) != 0) {
+      positional.push_back(*arg);
+      continue;
+    }
+    const std::size_t equals = arg->find('=');
+    const std::string name = arg->substr(2, equals == std::string::npos ? equals : equals - 2);
+    const auto option = std::find_if(command.options.begin(), command.options.end(),
+                                     [&name](const Option& o) { return o.name == name; });
+    if (option == command.options.end())
+      throw UsageError("unknown option '--" + name + "' for " + command.name);
+    std::optional<std::string>& value = values[option - command.options.begin()];
+    if (equals != std::string::npos)
+      value = arg->substr(equals + 1);
+    else if (arg + 1 != end)
+      value = *++arg;
+    else
+      throw UsageError("option '--" + name + "' needs a value");
+  }
+  if (positional.size() != command.argNames.size())
+    throw UsageError(command.name + " takes " + std::to_string(command.argNames.size()) +
+                     " argument(s)");
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const Option& option = command.options[i];
+    if (!values[i] && !option.defaultValue)
+      throw UsageError(command.name + " needs the option '--" + option.name + "'");
+    positional.push_back(values[i] ? *values[i] : *option.defaultValue);
+  }
+  return positional;
+}
+
 int run(const std::vector<std::string>& args)
 {
   if (args.size() == 1 && (args[0] == "--help" || args[0] == "-h")) {
@@ -60,12 +110,10 @@ int run(const std::vector<std::string>& args)
   const Command* command = findByName(format->commands, args[1]);
   if (!command)
     return usageError("unknown command '" + args[1] + "' for format " + format->name);
-  const std::vector<std::string> commandArgs(args.begin() + 2, args.end());
-  if (commandArgs.size() != command->argNames.size())
-    return usageError(format->name + " " + command->name + " takes " +
-                      std::to_string(command->argNames.size()) + " argument(s)");
   try {
-    return command->run(commandArgs, std::cout);
+    return command->run(commandArguments(*command, args.begin() + 2, args.end()), std::cout);
+  } catch (const UsageError& problem) {
+    return usageError(format->name + " " + problem.what());
   } catch (const HEXAll& failure) {
     std::cerr << failure.what() << '\n';
   } catch (const std::exception& failure) {
