@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The main job: runs ipconfig-rw on every bundled example and prints what it read.
+# The main job: runs ipconfig-rw on every bundled example and prints what it
+# read, then draws the pictures of the examples into the build's pictures/.
 # Usage: scripts/run-examples.sh [path/to/ipconfig-rw]
 set -euo pipefail
 
@@ -8,6 +9,7 @@ tool=${1:-$here/build/tools/ipconfig-rw}
 examples=$here/examples
 out=$(mktemp -d)
 trap 'rm -rf "$out"' EXIT
+pictures=$(cd "$(dirname "$tool")/.." && pwd)/pictures
 
 # A format that is read only: the example must read cleanly.
 check() {
@@ -51,3 +53,19 @@ run constraints placement.json
 settle constraints area_groups.json
 "$tool" constraints areagroups "$examples/area_groups.json" "$out/groups.json"
 cmp "$out/area_groups.json" "$out/groups.json"
+
+# A picture: its DOT text must be the checked-in one; with Graphviz at hand
+# it is rendered as SVG too.
+picture() {
+  local format=$1 file=$2 name=${2%.json}
+  "$tool" "$format" dot "$examples/$file" > "$pictures/$name.dot"
+  cmp "$examples/$name.dot" "$pictures/$name.dot"
+  if command -v dot > /dev/null; then
+    dot -Tsvg "$pictures/$name.dot" -o "$pictures/$name.svg"
+  fi
+}
+
+mkdir -p "$pictures"
+picture logicalarch logical_arch.json
+picture traffic traffic.json
+echo "Pictures of the examples: $pictures"

@@ -15,7 +15,7 @@ esac
 cd "$(dirname "$0")/.."
 
 packages=(cmake g++ ninja-build pkg-config rapidjson-dev libboost-dev libboost-filesystem-dev
-          libboost-iostreams-dev libgtest-dev libgmock-dev libbenchmark-dev)
+          libboost-iostreams-dev libgtest-dev libgmock-dev libbenchmark-dev graphviz)
 missing=()
 for package in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" ||

@@ -158,6 +158,13 @@ INSTANTIATE_TEST_SUITE_P(
                 "partition write $E/logical_arch.json $D/no/out.json --array-start 0 "
                 "--array-size 1",
                 1, "partition: cannot write $D/no/out.json\n"},
+        RunCase{"logicalArchDot", nullptr,
+                "logicalarch dot $E/logical_arch.json > $D/out.dot && "
+                "cmp $E/logical_arch.dot $D/out.dot",
+                0, ""},
+        RunCase{"trafficDot", nullptr,
+                "traffic dot $E/traffic.json > $D/out.dot && cmp $E/traffic.dot $D/out.dot", 0,
+                ""},
         RunCase{"constraintsCheck", nullptr, "constraints check $E/constraints.json", 0,
                 "constraints $E/constraints.json" + constraintsCounts},
         RunCase{"constraintsRoundtrip", nullptr,
@@ -194,5 +201,18 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"argumentCount", nullptr, "constraints areagroups $E/placement.json", 2,
                 "takes 2 argument(s)", true}),
     [](const auto& info) { return info.param.name; });
+
+// Graphviz itself accepts the pictures of the examples.
+TEST(IpconfigRwDotTest, GraphvizRendersThePictures)
+{
+  if (runTool("--help > /dev/null && command -v dot").exitCode != 0)
+    GTEST_SKIP() << "Graphviz's dot is not installed";
+  for (const char* run : {"logicalarch dot $E/logical_arch.json", "traffic dot $E/traffic.json"}) {
+    const TempDir dir;
+    const RunResult result = runTool(expand(run, dir) + " | dot -Tsvg -o " + dir.file("out.svg"));
+    EXPECT_EQ(result.exitCode, 0) << run << ": " << result.output;
+    EXPECT_NE(readFile(dir.file("out.svg")).find("<svg"), std::string::npos) << run;
+  }
+}
 
 }  // namespace

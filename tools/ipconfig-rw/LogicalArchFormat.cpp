@@ -1,5 +1,6 @@
 #include "Format.h"
 
+#include "LogicalArchDotWriter.h"
 #include "ZXLogicalArchModel.h"
 #include "ZXLogicalArchReader.h"
 #include "ZXLogicalArchWriter.h"
@@ -57,6 +58,14 @@ int roundtrip(const std::vector<std::string>& args, std::ostream& out)
   return exitOk;
 }
 
+int dot(const std::vector<std::string>& args, std::ostream& out)
+{
+  fw::ZXLogicalArchModel model;
+  fw::ZXLogicalArchReader().readFromJsonFile(args[0], model);
+  fw::LogicalArchDotWriter(model).write(out);
+  return exitOk;
+}
+
 }  // namespace
 
 Format logicalArchFormat()
@@ -67,6 +76,9 @@ Format logicalArchFormat()
               {"check", {"FILE"}, "read FILE and count its instances by kind, ports, connections",
                check},
               {"roundtrip", {"IN", "OUT"}, "read IN and write it back to OUT", roundtrip},
+              {"dot", {"FILE"},
+               "print FILE as a Graphviz DOT graph: instances by kind, connections as edges",
+               dot},
           }};
 }
 

@@ -3,6 +3,7 @@
 #include "HDGUIStatus.h"
 #include "NOCJsonTrafficSpecReader.h"
 #include "NOCJsonTrafficSpecWriter.h"
+#include "TrafficDotWriter.h"
 #include "TrafficSpec.h"
 
 #include <ostream>
@@ -53,6 +54,15 @@ int roundtrip(const std::vector<std::string>& args, std::ostream& out)
   return exitOk;
 }
 
+int dot(const std::vector<std::string>& args, std::ostream& out)
+{
+  HrdIPToolCntr::TrafficSpec spec;
+  HDGUIStatus status;
+  NOC::NOCJsonTrafficSpecReader().readFromJsonFile(args[0], spec, status);
+  NOC::TrafficDotWriter(spec).write(out);
+  return exitOk;
+}
+
 }  // namespace
 
 Format trafficFormat()
@@ -63,6 +73,10 @@ Format trafficFormat()
               {"check", {"FILE"}, "read FILE and summarise its instances, paths and phases",
                check},
               {"roundtrip", {"IN", "OUT"}, "read IN and write it back to OUT", roundtrip},
+              {"dot", {"FILE"},
+               "print FILE as a Graphviz DOT graph: masters, slaves and the bandwidths of "
+               "their paths",
+               dot},
           }};
 }
 

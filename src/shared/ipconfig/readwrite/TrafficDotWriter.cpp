@@ -1,0 +1,79 @@
+#include "TrafficDotWriter.h"
+
+#include "DotText.h"
+#include "TrafficSpec.h"
+
+#include <ostream>
+
+namespace NOC {
+
+namespace {
+
+bool holds(const HrdIPToolCntr::TrafficSpec::InstanceTable& table,
+           const HrdIPToolCntr::TrafficLInst* instance)
+{
+  const auto found = table.find(instance->name);
+  return found != table.end() && found->second == instance;
+}
+
+}  // namespace
+
+TrafficDotWriter::TrafficDotWriter(const HrdIPToolCntr::TrafficSpec& spec) : spec(spec)
+{
+  std::vector<const HrdIPToolCntr::TrafficLInst*> instances;
+  spec.getAllLogicalInstance(instances);
+  for (const HrdIPToolCntr::TrafficLInst* instance : instances) {
+    if (holds(spec.getMasters(), instance))
+      masters.push_back(instance);
+    else if (holds(spec.getSlaves(), instance))
+      slaves.push_back(instance);
+    else
+      continue;
+    nodeIds.emplace(instance, "n" + std::to_string(nodeIds.size()));
+  }
+}
+
+void TrafficDotWriter::write(std::ostream& out) const
+{
+  out << "digraph traffic {\n";
+  if (!spec.deviceName.empty())
+    out << "  label=" << IPConfig::DotText::quoted(spec.deviceName) << ";\n";
+  out << "  rankdir=LR;\n"
+         "  node [shape=box];\n";
+  writeCluster_(out, "cluster_masters", "masters", masters);
+  writeCluster_(out, "cluster_slaves", "slaves", slaves);
+  for (int index = 0; index < spec.getNumPaths(); ++index)
+    writePath_(out, *spec.getPath(index));
+  out << "}\n";
+}
+
+void TrafficDotWriter::writeCluster_(std::ostream& out, const char* id, const char* label,
+                                     const Instances& members) const
+{
+  if (members.empty())
+    return;
+  out << "  subgraph " << id << " {\n"
+      << "    label=\"" << label << "\";\n";
+  for (const HrdIPToolCntr::TrafficLInst* instance : members) {
+    out << "    " << nodeIds.at(instance) << " [label="
+        << IPConfig::DotText::quotedLines(
+               {instance->name, DevHrdIP::Definitions::toStr(instance->compType)})
+        << "];\n";
+  }
+  out << "  }\n";
+}
+
+void TrafficDotWriter::writePath_(std::ostream& out, const HrdIPToolCntr::TrafficPath& path) const
+{
+  const auto master = nodeIds.find(path.master);
+  const auto slave = nodeIds.find(path.slave);
+  if (master == nodeIds.end() || slave == nodeIds.end())
+    return;
+  out << "  " << master->second << " -> " << slave->second << " [label="
+      << IPConfig::DotText::quotedLines(
+             {"read " + std::to_string(path.getReadPerfSpec().bandwidth),
+              "write " + std::to_string(path.getWritePerfSpec().bandwidth)})
+      << "];\n";
+}
+
+}  // namespace NOC
