@@ -1,5 +1,7 @@
 #include "HDGUIStatus.h"
+#include "LogicalArchDotWriter.h"
 #include "NOCJsonReadWriteUtils.h"
+#include "QPEPartitionWriter.h"
 #include "ZXLogicalArchModel.h"
 #include "ZXLogicalArchReader.h"
 #include "ZXLogicalArchWriter.h"
@@ -94,6 +96,34 @@ void BM_LogicalArchWrite(benchmark::State& state)
   setCounters(state);
 }
 BENCHMARK(BM_LogicalArchWrite)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+void BM_LogicalArchDot(benchmark::State& state)
+{
+  ZXLogicalArchModel model;
+  readModel(state.range(0), model);
+  for (auto _ : state) {
+    std::ostringstream out;
+    LogicalArchDotWriter(model).write(out);
+    benchmark::DoNotOptimize(out.tellp());
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_LogicalArchDot)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+// A partition file for a model of that many compute arrays.
+void BM_PartitionWrite(benchmark::State& state)
+{
+  ZXLogicalArchModel model;
+  for (int i = 0; i < state.range(0); ++i)
+    model.addZXIPInstance("top/array" + std::to_string(i));
+  for (auto _ : state) {
+    std::ostringstream out;
+    QPEPartitionWriter().writeToJsonFile(out, model, {1u, 2u, 3u, 4u}, 42u, 10, 4, 0, 50, "ns");
+    benchmark::DoNotOptimize(out.tellp());
+  }
+  setCounters(state);
+}
+BENCHMARK(BM_PartitionWrite)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 // Every shim port looked up by name, as the compiler solution reader does
 // for each element of its file.

@@ -19,10 +19,10 @@ std::string drawn(const fw::ZXLogicalArchModel& model)
   return out.str();
 }
 
-std::string drawn(const HrdIPToolCntr::TrafficSpec& spec)
+std::string drawn(const HrdIPToolCntr::TrafficSpec& traffic)
 {
   std::ostringstream out;
-  NOC::TrafficDotWriter(spec).write(out);
+  NOC::TrafficDotWriter(traffic).write(out);
   return out.str();
 }
 
@@ -92,17 +92,17 @@ TEST(LogicalArchDotWriterTest, NamesAreEscapedAndLooseEndsArePoints)
 
 TEST(TrafficDotWriterTest, MastersAndSlavesInAddedOrderWithPathBandwidths)
 {
-  HrdIPToolCntr::TrafficSpec spec;
-  HrdIPToolCntr::TrafficLInst* slave = spec.addLogicalInstance("mem", Defs::AXI_MM, Defs::DDRC, {});
-  spec.addLogicalInstance("switch", Defs::AXI_MM, Defs::NPS, {});
+  HrdIPToolCntr::TrafficSpec traffic;
+  HrdIPToolCntr::TrafficLInst* slave = traffic.addLogicalInstance("mem", Defs::AXI_MM, Defs::DDRC, {});
+  traffic.addLogicalInstance("switch", Defs::AXI_MM, Defs::NPS, {});
   HrdIPToolCntr::TrafficLInst* master =
-      spec.addLogicalInstance("cpu \"0\"", Defs::AXI_MM, Defs::PL_NMU, {});
-  HrdIPToolCntr::TrafficPath* path = spec.addPath(master, slave);
+      traffic.addLogicalInstance("cpu \"0\"", Defs::AXI_MM, Defs::PL_NMU, {});
+  HrdIPToolCntr::TrafficPath* path = traffic.addPath(master, slave);
   path->setReadPerfSpec({Defs::BE, 400, 10});
   path->setWritePerfSpec({Defs::BE, 25, 10});
-  spec.addPath(master, slave);
+  traffic.addPath(master, slave);
 
-  EXPECT_EQ(drawn(spec), R"(digraph traffic {
+  EXPECT_EQ(drawn(traffic), R"(digraph traffic {
   rankdir=LR;
   node [shape=box];
   subgraph cluster_masters {

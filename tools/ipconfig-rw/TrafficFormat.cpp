@@ -56,10 +56,10 @@ int roundtrip(const std::vector<std::string>& args, std::ostream& out)
 
 int dot(const std::vector<std::string>& args, std::ostream& out)
 {
-  HrdIPToolCntr::TrafficSpec spec;
+  HrdIPToolCntr::TrafficSpec traffic;
   HDGUIStatus status;
-  NOC::NOCJsonTrafficSpecReader().readFromJsonFile(args[0], spec, status);
-  NOC::TrafficDotWriter(spec).write(out);
+  NOC::NOCJsonTrafficSpecReader().readFromJsonFile(args[0], traffic, status);
+  NOC::TrafficDotWriter(traffic).write(out);
   return exitOk;
 }
 

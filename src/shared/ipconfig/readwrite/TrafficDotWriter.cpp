@@ -1,7 +1,6 @@
 #include "TrafficDotWriter.h"
 
 #include "DotText.h"
-#include "TrafficSpec.h"
 
 #include <ostream>
 
@@ -18,14 +17,14 @@ bool holds(const HrdIPToolCntr::TrafficSpec::InstanceTable& table,
 
 }  // namespace
 
-TrafficDotWriter::TrafficDotWriter(const HrdIPToolCntr::TrafficSpec& spec) : spec(spec)
+TrafficDotWriter::TrafficDotWriter(const HrdIPToolCntr::TrafficSpec& traffic) : traffic(traffic)
 {
   std::vector<const HrdIPToolCntr::TrafficLInst*> instances;
-  spec.getAllLogicalInstance(instances);
+  traffic.getAllLogicalInstance(instances);
   for (const HrdIPToolCntr::TrafficLInst* instance : instances) {
-    if (holds(spec.getMasters(), instance))
+    if (holds(traffic.getMasters(), instance))
       masters.push_back(instance);
-    else if (holds(spec.getSlaves(), instance))
+    else if (holds(traffic.getSlaves(), instance))
       slaves.push_back(instance);
     else
       continue;
@@ -36,14 +35,14 @@ TrafficDotWriter::TrafficDotWriter(const HrdIPToolCntr::TrafficSpec& spec) : spe
 void TrafficDotWriter::write(std::ostream& out) const
 {
   out << "digraph traffic {\n";
-  if (!spec.deviceName.empty())
-    out << "  label=" << IPConfig::DotText::quoted(spec.deviceName) << ";\n";
+  if (!traffic.deviceName.empty())
+    out << "  label=" << IPConfig::DotText::quoted(traffic.deviceName) << ";\n";
   out << "  rankdir=LR;\n"
          "  node [shape=box];\n";
   writeCluster_(out, "cluster_masters", "masters", masters);
   writeCluster_(out, "cluster_slaves", "slaves", slaves);
-  for (int index = 0; index < spec.getNumPaths(); ++index)
-    writePath_(out, *spec.getPath(index));
+  for (int index = 0; index < traffic.getNumPaths(); ++index)
+    writePath_(out, *traffic.getPath(index));
   out << "}\n";
 }
 

@@ -1,17 +1,12 @@
 #pragma once
 
+#include "TrafficSpec.h"
 #include "ipconfig_readwrite_export.h"
 
 #include <iosfwd>
 #include <string>
 #include <unordered_map>
 #include <vector>
-
-namespace HrdIPToolCntr {
-class TrafficLInst;
-class TrafficPath;
-class TrafficSpec;
-}  // namespace HrdIPToolCntr
 
 namespace NOC {
 
@@ -24,7 +19,7 @@ namespace NOC {
 // same text.
 class IPCONFIG_READWRITE_EXPORT TrafficDotWriter {
 public:
-  explicit TrafficDotWriter(const HrdIPToolCntr::TrafficSpec& spec);
+  explicit TrafficDotWriter(const HrdIPToolCntr::TrafficSpec& traffic);
 
   void write(std::ostream& out) const;
 
@@ -35,7 +30,7 @@ private:
                      const Instances& members) const;
   void writePath_(std::ostream& out, const HrdIPToolCntr::TrafficPath& path) const;
 
-  const HrdIPToolCntr::TrafficSpec& spec;
+  const HrdIPToolCntr::TrafficSpec& traffic;
   Instances masters;
   Instances slaves;
   std::unordered_map<const HrdIPToolCntr::TrafficLInst*, std::string> nodeIds;
