@@ -123,7 +123,7 @@ void BM_PartitionWrite(benchmark::State& state)
   }
   setCounters(state);
 }
-BENCHMARK(BM_PartitionWrite)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PartitionWrite)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 // Every shim port looked up by name, as the compiler solution reader does
 // for each element of its file.
