@@ -1,12 +1,12 @@
 #include "HDARPartReader.h"
 
 #include "ComMsgMgrInstance.h"
+#include "HCRapidJsonParser.h"
 #include "HCRapidJsonReadWriteUtils.h"
 #include "HEXAll.h"
 #include "HUTEnv.h"
 #include "HUTFile.h"
 
-#include <rapidjson/istreamwrapper.h>
 
 #include <algorithm>
 #include <fstream>
@@ -197,10 +197,6 @@ std::unique_ptr<HDARPart> HDARPartReader::read(std::istream& in, const std::stri
   if (!in.good())
     HCRapidJsonReadWriteUtils::errorReadingJsonFile(fileName);
   JDocument document;
-  rapidjson::IStreamWrapper wrapper(in);
-  document.ParseStream(wrapper);
-  if (document.HasParseError())
-    HCRapidJsonReadWriteUtils::errorParsingJsonFile(
-        fileName, HCRapidJsonReadWriteUtils::GetErrorMsgFromDocument(document));
+  HCRapidJsonParser::parseJsonFile(in, fileName, document);
   return DeviceWalk(fileName).read(document);
 }

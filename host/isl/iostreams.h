@@ -32,12 +32,18 @@ private:
   std::ios_base::openmode mode_;
 };
 
+// "gzip", "bzip2" or "xz" for a stream that xp_autodetect opened on a
+// compressed file; empty for any other stream. Kept in the stream's own
+// storage, so that it is found through a plain std::istream.
+IPCONFIG_HOST_EXPORT std::string compressionOf(std::ios_base& stream);
+
 // Opens the file as it stands.
 struct IPCONFIG_HOST_EXPORT basic_file {
   void operator()(const char* path, filtering_stream<input>& stream) const;
 };
 
 // Opens the file and decompresses gzip, bzip2 or xz, told by the magic bytes.
+// A file whose first bytes cannot be read (a directory) leaves failbit set.
 struct IPCONFIG_HOST_EXPORT xp_autodetect {
   void operator()(const char* path, filtering_stream<input>& stream) const;
 };

@@ -1,6 +1,7 @@
 #include "Format.h"
 
 #include "Constraints.h"
+#include "HCRapidJsonParser.h"
 #include "HCRapidJsonReadWriteUtils.h"
 #include "HDGUIStatus.h"
 #include "HIPDevice.h"
@@ -10,7 +11,6 @@
 #include "NOCModel.h"
 #include "TrafficSpec.h"
 
-#include <rapidjson/istreamwrapper.h>
 
 #include <fstream>
 #include <ostream>
@@ -31,10 +31,10 @@ public:
   explicit FileDesign(const std::string& path)
   {
     std::ifstream in(path, std::ios_base::binary);
-    rapidjson::IStreamWrapper wrapper(in);
     JDocument document;
-    document.ParseStream(wrapper);
-    if (document.HasParseError() || !Json::IsArrayProperty(document, "Placement"))
+    std::string problem;
+    if (HCRapidJsonParser::parse(in, document, problem) != HCRapidJsonParser::Result::parsed ||
+        !Json::IsArrayProperty(document, "Placement"))
       return;
     for (const JValue& element : document["Placement"].GetArray()) {
       spec.addLogicalInstance(Json::GetStringProperty(element, "LogicalInstance"), Defs::AXI_MM,

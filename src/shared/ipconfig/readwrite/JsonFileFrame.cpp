@@ -1,11 +1,11 @@
 #include "JsonFileFrame.h"
 
+#include "HCRapidJsonParser.h"
 #include "HUTFile.h"
 #include "HUTFileWriteStream.h"
 #include "ForwardingHandler.h"
 #include "IPConfigMessages.h"
 
-#include <rapidjson/istreamwrapper.h>
 #include <rapidjson/ostreamwrapper.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
@@ -57,11 +57,7 @@ void JsonFileFrame::parse(std::istream& in, const std::string& fileName, JDocume
 {
   if (!in.good())
     HCRapidJsonReadWriteUtils::errorReadingJsonFile(fileName);
-  rapidjson::IStreamWrapper wrapper(in);
-  document.ParseStream(wrapper);
-  if (document.HasParseError())
-    HCRapidJsonReadWriteUtils::errorParsingJsonFile(
-        fileName, HCRapidJsonReadWriteUtils::GetErrorMsgFromDocument(document));
+  HCRapidJsonParser::parseJsonFile(in, fileName, document);
 }
 
 std::unique_ptr<JSchemaDocument> JsonFileFrame::loadSchema(const std::string& schemaPath,
@@ -71,11 +67,7 @@ std::unique_ptr<JSchemaDocument> JsonFileFrame::loadSchema(const std::string& sc
   if (!input.readable)
     HCRapidJsonReadWriteUtils::errorReadingSchemaFile(input.canonicalName);
   JDocument schemaDocument;
-  rapidjson::IStreamWrapper wrapper(*input.stream);
-  schemaDocument.ParseStream(wrapper);
-  if (schemaDocument.HasParseError())
-    HCRapidJsonReadWriteUtils::errorParsingSchemaFile(
-        input.canonicalName, HCRapidJsonReadWriteUtils::GetErrorMsgFromDocument(schemaDocument));
+  HCRapidJsonParser::parseSchemaFile(*input.stream, input.canonicalName, schemaDocument);
   return std::make_unique<JSchemaDocument>(schemaDocument);
 }
 
