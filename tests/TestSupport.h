@@ -10,6 +10,10 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -48,6 +52,30 @@ inline void writeFile(const std::string& path, const std::string& text)
 {
   fs::create_directories(fs::path(path).parent_path());
   std::ofstream(path, std::ios::binary) << text;
+}
+
+struct RunResult {
+  int exitCode;
+  std::string output;  // stderr, then stdout: the tool's stdout is flushed at its end
+};
+
+// Runs ipconfig-rw with `args` through the shell; with a time limit, a run
+// that passes it is killed and gives exit code 124.
+inline RunResult runTool(const std::string& args, int timeLimitSeconds = 0)
+{
+  const std::string limit =
+      timeLimitSeconds > 0 ? "timeout " + std::to_string(timeLimitSeconds) + " " : "";
+  const std::string command = limit + IPCONFIG_RW_TOOL + " " + args + " 2>&1";
+  RunResult result{-1, {}};
+  FILE* pipe = popen(command.c_str(), "r");
+  if (!pipe)
+    return result;
+  std::array<char, 4096> buffer;
+  while (std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
+    result.output.append(buffer.data(), got);
+  const int status = pclose(pipe);
+  result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return result;
 }
 
 inline JDocument parseJson(const char* text)

@@ -2,34 +2,9 @@
 
 #include <boost/algorithm/string/replace.hpp>
 
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-
 namespace {
 
 using namespace testing_support;
-
-struct RunResult {
-  int exitCode;
-  std::string output;  // stderr, then stdout: the tool's stdout is flushed at its end
-};
-
-RunResult runTool(const std::string& args)
-{
-  const std::string command = std::string(IPCONFIG_RW_TOOL) + " " + args + " 2>&1";
-  RunResult result{-1, {}};
-  FILE* pipe = popen(command.c_str(), "r");
-  if (!pipe)
-    return result;
-  std::array<char, 4096> buffer;
-  while (std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe))
-    result.output.append(buffer.data(), got);
-  const int status = pclose(pipe);
-  result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return result;
-}
 
 // One run of the tool in a fresh directory $D that holds `input` as in.json
 // when given; $E stands for the examples. The whole output is expected, or
