@@ -4,98 +4,26 @@
 #include "HIPLogicalObjectNameResolverInterfaceIdentity.h"
 #include "HUTFile.h"
 #include "JsonFileFrame.h"
+#include "NOCJsonLogicalInstanceReader.h"
+#include "NOCJsonObjectWalk.h"
 #include "NOCJsonReadWriteUtils.h"
 #include "TrafficSpec.h"
 
-#include <boost/algorithm/string/classification.hpp>
 #include <boost/algorithm/string/predicate.hpp>
-#include <boost/algorithm/string/split.hpp>
 
 #include <cstdint>
-#include <cstdlib>
-#include <vector>
 
 namespace NOC {
 
 namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
+using Walk = NOCJsonObjectWalk;
 using IPConfig::JsonFileFrame;
 using HrdIPToolCntr::TrafficLInst;
 using HrdIPToolCntr::TrafficPath;
 using HrdIPToolCntr::TrafficSpec;
 namespace Defs = DevHrdIP::Definitions;
-
-// Calls `read` on each object of the array under `key`, if there is one.
-template <typename Read>
-void forEachObject(const JValue& object, const char* key, const Read& read)
-{
-  if (!object.IsObject())
-    return;
-  const auto found = object.FindMember(key);
-  if (found == object.MemberEnd() || !found->value.IsArray())
-    return;
-  for (const JValue& element : found->value.GetArray())
-    if (element.IsObject())
-      read(element);
-}
-
-// The member's value when it is an object, else null.
-const JValue* objectMember(const JValue& object, const char* key)
-{
-  if (!object.IsObject())
-    return nullptr;
-  const auto found = object.FindMember(key);
-  return found != object.MemberEnd() && found->value.IsObject() ? &found->value : nullptr;
-}
-
-bool hasMember(const JValue& object, const char* key)
-{
-  return object.FindMember(key) != object.MemberEnd();
-}
-
-std::uint16_t low16(int value)
-{
-  return static_cast<std::uint16_t>(value);
-}
-
-// Addresses are numbers, or text in any base that strtoull takes.
-unsigned long address(const JValue& object, const char* key)
-{
-  if (Json::IsStringProperty(object, key))
-    return std::strtoull(Json::GetStringProperty(object, key).c_str(), nullptr, 0);
-  return Json::GetULongProperty(object, key);
-}
-
-void readSysAddresses(const JValue& element, HrdIPToolCntr::TrafficAddressSpace& target)
-{
-  if (hasMember(element, "SysAddresses")) {
-    forEachObject(element, "SysAddresses", [&](const JValue& entry) {
-      target.addSysAddress({address(entry, "Base"), address(entry, "Size")});
-    });
-  } else if (hasMember(element, "SysAddress")) {
-    target.addSysAddress(
-        {Json::GetULongProperty(element, "SysAddress"),
-         Json::GetULongProperty(element, "SysAddressSize")});
-  }
-}
-
-void readRemap(const JValue& element, HrdIPToolCntr::TrafficAddressSpace& target)
-{
-  forEachObject(element, "Remap", [&](const JValue& entry) {
-    target.addRemapAddrSpec(address(entry, "Logical"), address(entry, "Physical"),
-                            address(entry, "Range"));
-  });
-}
-
-template <typename Store>
-void forEachStringMember(const JValue& object, const Store& store)
-{
-  for (const auto& member : object.GetObject())
-    if (member.value.IsString())
-      store(std::string(member.name.GetString(), member.name.GetStringLength()),
-            std::string(member.value.GetString(), member.value.GetStringLength()));
-}
 
 // The name of the error slave is passed on as a property value; any other
 // name must resolve to an instance of the design.
@@ -109,41 +37,6 @@ bool resolveNameUsingResolverInterface(const HIPLogicalObjectNameResolverInterfa
   }
   out = resolver.resolveLogicalInstanceName(name);
   return !out.empty();
-}
-
-// "a b,c" gives {{a, b}, {c}}; a group keeps its place even when no name of
-// it resolves. An empty text gives no group.
-TrafficSpec::ExternalConns externalConns(const std::string& text,
-                                         const HIPLogicalObjectNameResolverInterface& resolver)
-{
-  TrafficSpec::ExternalConns lists;
-  if (text.empty())
-    return lists;
-  std::vector<std::string> groups;
-  std::vector<std::string> names;
-  boost::algorithm::split(groups, text, boost::algorithm::is_any_of(","));
-  for (const std::string& group : groups) {
-    std::vector<std::string>& list = lists.emplace_back();
-    boost::algorithm::split(names, group, boost::algorithm::is_any_of(" "));
-    for (const std::string& name : names) {
-      if (name.empty())
-        continue;
-      std::string resolved = resolver.resolveLogicalInstancePropertyValue(name);
-      if (!resolved.empty())
-        list.push_back(std::move(resolved));
-    }
-  }
-  return lists;
-}
-
-bool takesAxiDataWidth(Defs::COMP_TYPE type)
-{
-  return (type >= Defs::PL_NMU && type <= Defs::PL_NSU_2) || type == Defs::HBM_NMU;
-}
-
-bool isMemoryController(Defs::SLV_COMP_TYPE type)
-{
-  return (type >= Defs::SLV_DDRC && type <= Defs::SLV_DDR5X) || type == Defs::SLV_HBMMC;
 }
 
 }  // namespace
@@ -174,10 +67,9 @@ bool NOCJsonTrafficSpecReader::readFromJsonFile(std::istream& in, const std::str
                           isl::iostreams::xp_autodetect());
   status.setProgress(20.0);
   Context context{fileName, resolver, spec, {}};
-  forEachObject(document, "LogicalInstances",
-                [&](const JValue& element) { readLogicalInstance_(element, context); });
+  readLogicalInstances_(document, context);
   status.setProgress(40.0);
-  forEachObject(document, "Paths", [&](const JValue& element) { readPath_(element, context); });
+  Walk::forEachObject(document, "Paths", [&](const JValue& element) { readPath_(element, context); });
   readSystemProperties_(document, context);
   status.setProgress(100.0);
   return true;
@@ -204,119 +96,24 @@ bool NOCJsonTrafficSpecReader::enableDefaultSlv(HrdIPToolCntr::TrafficSpec& spec
   return spec.hasErrorSlave() || spec.addErrorSlaveAndRoutes();
 }
 
-void NOCJsonTrafficSpecReader::readLogicalInstance_(const JValue& element, Context& context)
+void NOCJsonTrafficSpecReader::readLogicalInstances_(const JValue& root, Context& context)
 {
-  const std::string name = Json::GetStringProperty(element, "Name");
-  const bool isMaster = Json::GetBooleanProperty(element, "IsMaster");
-  const std::string compTypeText = Json::GetStringProperty(element, "CompType");
-  const bool firewall = Json::GetBooleanProperty(element, "Firewall");
-  const Defs::AxiProt protocol = Defs::toAxiProtEnum(Json::GetStringProperty(element, "Protocol"));
-  const Defs::COMP_TYPE compType = Defs::toCompTypeEnum(compTypeText);
-  if (compType == Defs::COMP_TYPE_UNKNOWN)
-    Json::errorParsingJsonFile(context.fileName, "Unknown component type : " + compTypeText);
-  const bool isVirtual = Json::GetBooleanProperty(element, "IsVirtual");
-  const bool hasDestId = Json::IsIntegrProperty(element, "DestId");
-  if (name.empty())
-    Json::errorParsingJsonFile(context.fileName, "Empty logical instance name");
-  const Defs::SLV_COMP_TYPE slaveType = Defs::toSlvCompTypeEnum(compTypeText);
-
-  std::string resolvedName;
-  if (isVirtual)
-    resolvedName = context.resolver.resolveLogicalInstancePropertyValue(name);
-  else
-    resolveNameUsingResolverInterface(context.resolver, name, resolvedName);
-  if (resolvedName.empty())
-    Json::errorParsingJsonFile(
-        context.fileName, "Could not find netlist instance for traffic spec instance: " + name);
-  context.resolvedNames[name] = resolvedName;
-
-  TrafficLInst& instance = *context.spec.addLogicalInstance(
-      resolvedName, protocol, compType,
-      externalConns(Json::GetStringProperty(element, "ExternalConn"), context.resolver));
-  instance.firewall = firewall;
-  instance.designName = Json::GetStringProperty(element, "DesignName");
-  if (isMaster)
-    readMasterProperties_(element, instance);
-  else
-    readSlaveProperties_(element, instance);
-
-  if (const JValue* params = objectMember(element, "ConfigParams"))
-    forEachStringMember(*params, [&](std::string key, std::string value) {
-      instance.configParams[std::move(key)] = std::move(value);
-    });
-  if (const JValue* simMetaData = objectMember(element, "SimMetaData"))
-    instance.ipName = Json::GetStringProperty(*simMetaData, "IPName");
-  instance.useDestIdIdx = Json::GetBooleanProperty(element, "UseDestIdIdx");
-  instance.setHasParityAddr(Json::GetBooleanProperty(element, "HasParityAddr"));
-  instance.setHasParityData(Json::GetBooleanProperty(element, "HasParityData"));
-  if (takesAxiDataWidth(compType))
-    instance.setAxiWidth(Json::GetIntegrProperty(element, "AxiDataWidth"));
-  if (isMemoryController(slaveType))
-    readMemoryControllerProperties_(element, slaveType, context, instance);
-  instance.isVirtual = isVirtual;
-  instance.hasDestId = hasDestId;
-  if (hasDestId)
-    readDestId_(element, context, instance);
-}
-
-void NOCJsonTrafficSpecReader::readMasterProperties_(const JValue& element,
-                                                     HrdIPToolCntr::TrafficLInst& instance)
-{
-  readRemap(element, instance);
-  if (Json::IsStringProperty(element, "ReadTC"))
-    instance.setReadTC(Defs::toTCEnum(Json::GetStringProperty(element, "ReadTC")));
-  if (Json::IsStringProperty(element, "WriteTC"))
-    instance.setWriteTC(Defs::toTCEnum(Json::GetStringProperty(element, "WriteTC")));
-  instance.setNumReadOutstanding(low16(Json::GetIntegrProperty(element, "NumReadOutstanding")));
-  instance.setNumWriteOutstanding(low16(Json::GetIntegrProperty(element, "NumWriteOutstanding")));
-  // Written as doubles, read as integers: both sides stay as they are.
-  instance.setReadRateLimiter(
-      static_cast<float>(Json::GetIntegrProperty(element, "ReadRateLimiter")));
-  instance.setWriteRateLimiter(
-      static_cast<float>(Json::GetIntegrProperty(element, "WriteRateLimiter")));
-}
-
-void NOCJsonTrafficSpecReader::readSlaveProperties_(const JValue& element,
-                                                    HrdIPToolCntr::TrafficLInst& instance)
-{
-  readSysAddresses(element, instance);
-  const auto params = element.FindMember("MemoryParams");
-  if (params == element.MemberEnd())
-    return;
-  const auto add = [&](const std::string& name, const std::string& value) {
-    instance.addMemoryParam(name, value);
-  };
-  if (params->value.IsObject())
-    forEachStringMember(params->value, add);
-  else if (params->value.IsArray())
-    for (const JValue& param : params->value.GetArray())
-      add(Json::GetStringProperty(param, "Name"), Json::GetStringProperty(param, "Value"));
-}
-
-void NOCJsonTrafficSpecReader::readMemoryControllerProperties_(
-    const JValue& element, DevHrdIP::Definitions::SLV_COMP_TYPE slaveType, Context& context,
-    HrdIPToolCntr::TrafficLInst& instance)
-{
-  for (const std::string& text : Json::GetStringArrayProperty(element, "Ports")) {
-    const Defs::PORT_TYPE port = Defs::toPtEnum(text);
-    if (port == Defs::PORT_NONE)
-      NOCJsonReadWriteUtils::issueInvalidPortForLogicalSlave(text, instance.name);
-    else
-      context.spec.addPortTypeForMC(&instance, port);
-  }
-  if (slaveType == Defs::SLV_HBMMC)
-    return;
-  instance.setDdrInterleaveSize(low16(Json::GetIntegrProperty(element, "InterleaveSize")));
-  instance.setDdrInterleaveSel(low16(Json::GetIntegrProperty(element, "InterleaveSel")));
-}
-
-void NOCJsonTrafficSpecReader::readDestId_(const JValue& element, const Context& context,
-                                           HrdIPToolCntr::TrafficLInst& instance)
-{
-  const std::uint16_t destId = low16(Json::GetIntegrProperty(element, "DestId"));
-  if (destId >> 12 != 0)
-    Json::errorParsingJsonFile(context.fileName, "DestId entry is expected to be a 12 bit maximum");
-  instance.destId = destId;
+  const NOCJsonLogicalInstanceReader instanceReader(
+      context.fileName, context.resolver,
+      [&](const std::string& name, std::string& out) {
+        return resolveNameUsingResolverInterface(context.resolver, name, out);
+      },
+      [&](const std::string& resolvedName, Defs::AxiProt protocol, Defs::COMP_TYPE type,
+          const TrafficSpec::ExternalConns& externalConns) -> TrafficLInst& {
+        return *context.spec.addLogicalInstance(resolvedName, protocol, type, externalConns);
+      },
+      [&](TrafficLInst& instance, Defs::PORT_TYPE port) {
+        context.spec.addPortTypeForMC(&instance, port);
+      });
+  Walk::forEachObject(root, "LogicalInstances", [&](const JValue& element) {
+    const std::string name = Json::GetStringProperty(element, "Name");
+    context.resolvedNames[name] = instanceReader.read(element);
+  });
 }
 
 void NOCJsonTrafficSpecReader::readPath_(const JValue& element, Context& context)
@@ -354,14 +151,14 @@ void NOCJsonTrafficSpecReader::readPath_(const JValue& element, Context& context
   path.separateRoutingGroup = Json::GetStringProperty(element, "SeparateRoutingGroup");
   readDestIdIndex_(element, path);
   path.initialBoot = Json::GetBooleanProperty(element, "InitialBoot");
-  forEachObject(element, "DestIdIdx", [&](const JValue& range) {
+  Walk::forEachObject(element, "DestIdIdx", [&](const JValue& range) {
     path.addDestIdIdx({static_cast<unsigned char>(Json::GetIntegrProperty(range, "start_idx")),
                        static_cast<unsigned char>(Json::GetIntegrProperty(range, "end_idx"))});
   });
   path.highPriorityRouting = Json::GetBooleanProperty(element, "HighPriorityRouting");
   readPhaseGroups_(element, path);
-  readSysAddresses(element, path);
-  readRemap(element, path);
+  Walk::readSysAddresses(element, path);
+  Walk::readRemap(element, path);
 }
 
 void NOCJsonTrafficSpecReader::readPerformance_(const JValue& element,
@@ -378,9 +175,9 @@ void NOCJsonTrafficSpecReader::readPerformance_(const JValue& element,
   const bool stream = Json::GetStringProperty(element, "CommType") == "STRM";
   if (!stream)
     path.setReadPerfSpec({Defs::BE, figure("ReadBW"), figure("ReadLatency")});
-  if (!stream && hasMember(element, "ReadAvgBurst"))
+  if (!stream && Walk::hasMember(element, "ReadAvgBurst"))
     path.setReadAvgBurst(burst("ReadAvgBurst"));
-  if (hasMember(element, "WriteAvgBurst"))
+  if (Walk::hasMember(element, "WriteAvgBurst"))
     path.setWriteAvgBurst(burst("WriteAvgBurst"));
 }
 
@@ -390,7 +187,7 @@ void NOCJsonTrafficSpecReader::readDestIdIndex_(const JValue& element,
   path.hasDestIdIndex = Json::IsIntegrProperty(element, "DestIdIndex");
   if (!path.hasDestIdIndex)
     return;
-  const std::uint16_t index = low16(Json::GetIntegrProperty(element, "DestIdIndex"));
+  const std::uint16_t index = Walk::low16(Json::GetIntegrProperty(element, "DestIdIndex"));
   if (index > 7) {
     std::string schemaName;
     HUTFile(NOCJsonReadWriteUtils::getTrafficJsonSchemaFile()).getCanonicalName(schemaName);
@@ -409,9 +206,9 @@ void NOCJsonTrafficSpecReader::readPhaseGroups_(const JValue& element,
   };
   const std::uint32_t readLatency = latency("ReadLatency");
   const std::uint32_t writeLatency = latency("WriteLatency");
-  forEachObject(element, "PhaseGroups", [&](const JValue& group) {
+  Walk::forEachObject(element, "PhaseGroups", [&](const JValue& group) {
     const std::string groupName = Json::GetStringProperty(group, "Name");
-    forEachObject(group, "Phases", [&](const JValue& phase) {
+    Walk::forEachObject(group, "Phases", [&](const JValue& phase) {
       const std::string phaseName = Json::GetStringProperty(phase, "Name");
       const auto figure = [&](const char* key) {
         return static_cast<std::uint32_t>(Json::GetULongProperty(phase, key));
@@ -426,7 +223,7 @@ void NOCJsonTrafficSpecReader::readPhaseGroups_(const JValue& element,
 
 void NOCJsonTrafficSpecReader::readSystemProperties_(const JValue& root, Context& context)
 {
-  const JValue* properties = objectMember(root, "SystemProperties");
+  const JValue* properties = Walk::objectMember(root, "SystemProperties");
   if (!properties)
     return;
   if (Json::IsIntegrProperty(*properties, "Frequency"))

@@ -54,15 +54,7 @@ private:
     ResolvedNames resolvedNames;
   };
 
-  static void readLogicalInstance_(const JValue& element, Context& context);
-  static void readMasterProperties_(const JValue& element, HrdIPToolCntr::TrafficLInst& instance);
-  static void readSlaveProperties_(const JValue& element, HrdIPToolCntr::TrafficLInst& instance);
-  static void readMemoryControllerProperties_(const JValue& element,
-                                              DevHrdIP::Definitions::SLV_COMP_TYPE slaveType,
-                                              Context& context,
-                                              HrdIPToolCntr::TrafficLInst& instance);
-  static void readDestId_(const JValue& element, const Context& context,
-                          HrdIPToolCntr::TrafficLInst& instance);
+  static void readLogicalInstances_(const JValue& root, Context& context);
   static void readPath_(const JValue& element, Context& context);
   static void readPerformance_(const JValue& element, HrdIPToolCntr::TrafficPath& path);
   static void readDestIdIndex_(const JValue& element, HrdIPToolCntr::TrafficPath& path);
