@@ -47,6 +47,7 @@ check traffic traffic.json.gz
 # first write puts it in the written form of the plain example.
 "$tool" traffic roundtrip "$examples/traffic.json.gz" "$out/from-gz.json"
 cmp "$examples/traffic.json" "$out/from-gz.json"
+"$tool" solution check "$examples/traffic.json" "$examples/solution.json"
 run nocconstraints noc_constraints.json
 run constraints constraints.json
 run constraints placement.json

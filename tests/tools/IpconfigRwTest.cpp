@@ -91,6 +91,21 @@ INSTANTIATE_TEST_SUITE_P(
                 "traffic roundtrip $D/in.json $D/out.json", 1,
                 "traffic: $D/in.json has no instance, no user-set frequency and no DFX path; "
                 "nothing written\n"},
+        RunCase{"solutionCheck", nullptr, "solution check $E/traffic.json $E/solution.json", 0,
+                "solution $E/solution.json: OPTIMAL on xq2vp1502, 11 routes (2 locked) over 22 "
+                "links, 6 placements (0 locked), 7 destination ids, 3 read and 3 write path "
+                "latencies\n"},
+        RunCase{"solutionUnknownComponent", R"({"Components": [{"Name": "NPS_X9Y9"}]})",
+                "solution check $E/traffic.json $D/in.json", 0,
+                "CRITICAL WARNING: [ipconfig @75-184@] NPS_X9Y9\n", true},
+        RunCase{"solutionMissingLink",
+                R"({"Paths": [{"From": "top/cpu_cci", "To": "top/ddr_mc", "Port": "PORT0",
+                    "Nets": [{"CommType": "READ", "Connections": ["NPS_X0Y1", "OUT0",
+                                                                  "NPS_X1Y1", "IN0"]}]}]})",
+                "solution check $E/traffic.json $D/in.json", 1,
+                "ERROR: No Connection between NPS_X0Y1:OUT0 to NPS_X1Y1:IN0\n"
+                "Device Model version mismatch!\n",
+                true},
         RunCase{"logicalArchCheck", nullptr, "logicalarch check $E/logical_arch.json", 0,
                 "logicalarch $E/logical_arch.json" + logicalArchCounts},
         RunCase{"logicalArchRoundtrip", nullptr,

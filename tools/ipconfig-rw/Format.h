@@ -51,6 +51,7 @@ const std::vector<Format>& allFormats();
 Format metadataFormat();
 Format logicalArchFormat();
 Format trafficFormat();
+Format solutionFormat();
 Format constraintsFormat();
 Format nocConstraintsFormat();
 Format partitionFormat();

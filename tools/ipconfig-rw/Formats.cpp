@@ -8,6 +8,7 @@ const std::vector<Format>& allFormats()
       metadataFormat(),
       constraintsFormat(),
       trafficFormat(),
+      solutionFormat(),
       nocConstraintsFormat(),
       logicalArchFormat(),
       partitionFormat(),
