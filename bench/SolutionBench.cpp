@@ -129,7 +129,8 @@ void BM_SolutionRead(benchmark::State& state)
     });
     benchmark::DoNotOptimize(result.routes.size());
     state.PauseTiming();
-    floorSeconds += cpuSeconds([&] { benchmark::DoNotOptimize(parseAndValidate(text, schemaPath)); });
+    floorSeconds +=
+        cpuSeconds([&] { benchmark::DoNotOptimize(parseAndValidate(text, schemaPath)); });
     state.ResumeTiming();
   }
   state.SetItemsProcessed(state.iterations() * state.range(1));

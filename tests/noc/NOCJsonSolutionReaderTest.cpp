@@ -179,8 +179,9 @@ TEST_F(NOCJsonSolutionReaderTest, LatencySumsCountOnlyMatchedNetsAndNeedANonZero
   // "READ" and "READ_REQ" add to the read sum, the rest to the write sum; a
   // net type that matches nothing adds nothing anywhere.
   const std::string nets =
-      net("READ", R"(, "AchievedLatency": 3)") + "," + net("READ_REQ", R"(, "AchievedLatency": 4)") +
-      "," + net("WRITE", R"(, "AchievedLatency": 5)") + "," +
+      net("READ", R"(, "AchievedLatency": 3)") + "," +
+      net("READ_REQ", R"(, "AchievedLatency": 4)") + "," +
+      net("WRITE", R"(, "AchievedLatency": 5)") + "," +
       net("WRITE_RESP", R"(, "AchievedLatency": 6)") + "," +
       net("READ_RESP", R"(, "AchievedLatency": 100)");
   read(solution(path(R"(, "ReadAchievedBW": 70, "WriteAchievedBW": 80, "ReadLatency": 1,
@@ -228,7 +229,8 @@ TEST_F(NOCJsonSolutionReaderTest, PhysicalNamesPlaceAPathWhoseEndsTheModelDoesNo
   // The first net starts at a PS master and ends at a PL slave: the master
   // comes from the start's name, and the slave from the owners of the file's
   // address ranges of "s_old".
-  TrafficLInst local = spec.createNonTrafficSpecLogicalInstance("x", Defs::AXI_MM, Defs::PL_NSU, {});
+  TrafficLInst local =
+      spec.createNonTrafficSpecLogicalInstance("x", Defs::AXI_MM, Defs::PL_NSU, {});
   local.addSysAddress({0x1000, 0x100});
   const NOC::NOCJsonSolutionReader::RangeOwners owners{
       {local.getSysAddressRanges(), {"nothing", "s"}}};

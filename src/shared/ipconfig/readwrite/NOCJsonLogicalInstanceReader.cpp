@@ -65,8 +65,8 @@ std::string NOCJsonLogicalInstanceReader::read(const JValue& element) const
   else
     resolveName(name, resolvedName);
   if (resolvedName.empty())
-    Json::errorParsingJsonFile(fileName,
-                               "Could not find netlist instance for traffic spec instance: " + name);
+    Json::errorParsingJsonFile(
+        fileName, "Could not find netlist instance for traffic spec instance: " + name);
 
   TrafficLInst& instance = createInstance(
       resolvedName, protocol, compType,
@@ -106,7 +106,8 @@ void NOCJsonLogicalInstanceReader::readMasterProperties_(const JValue& element,
     instance.setReadTC(Defs::toTCEnum(Json::GetStringProperty(element, "ReadTC")));
   if (Json::IsStringProperty(element, "WriteTC"))
     instance.setWriteTC(Defs::toTCEnum(Json::GetStringProperty(element, "WriteTC")));
-  instance.setNumReadOutstanding(Walk::low16(Json::GetIntegrProperty(element, "NumReadOutstanding")));
+  instance.setNumReadOutstanding(
+      Walk::low16(Json::GetIntegrProperty(element, "NumReadOutstanding")));
   instance.setNumWriteOutstanding(
       Walk::low16(Json::GetIntegrProperty(element, "NumWriteOutstanding")));
   // Written as doubles, read as integers: both sides stay as they are.

@@ -90,6 +90,21 @@ const std::string& nameOf(const TrafficLInst* instance)
   return instance ? instance->name : none;
 }
 
+// Calls `known` on each element of the group's "Phases" that `phases` holds,
+// and `unknown` with the name of every other one.
+template <typename Known, typename Unknown>
+void forEachPhase(const JValue& group, const std::set<std::string>* phases, const Known& known,
+                  const Unknown& unknown)
+{
+  Walk::forEachObject(group, "Phases", [&](const JValue& phase) {
+    const std::string phaseName = Json::GetStringProperty(phase, "Name");
+    if (phases && phases->count(phaseName) != 0)
+      known(phase, phaseName);
+    else
+      unknown(phaseName);
+  });
+}
+
 }  // namespace
 
 struct NOCJsonSolutionReader::Context {
@@ -450,18 +465,18 @@ void NOCJsonSolutionReader::readNetPhaseGroup_(const JValue& group, NetRead& rea
     return;
   }
   const std::set<std::string>* phases = context.spec.getAllPhasesForPhaseGroup(groupName);
-  Walk::forEachObject(group, "Phases", [&](const JValue& phase) {
-    const std::string phaseName = Json::GetStringProperty(phase, "Name");
-    if (!phases || phases->count(phaseName) == 0) {
-      IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-4365@%s%s%s%s%s", context.fileName, phaseName,
-                        instance, instance, read.commType);
-      return;
-    }
-    const unsigned bw = unsignedProperty(phase, "AchievedBW");
-    read.phaseBw[phaseName] = bw;
-    if (bw == read.achievedBw)
-      read.limitingPhase = phaseName;
-  });
+  forEachPhase(
+      group, phases,
+      [&](const JValue& phase, const std::string& phaseName) {
+        const unsigned bw = unsignedProperty(phase, "AchievedBW");
+        read.phaseBw[phaseName] = bw;
+        if (bw == read.achievedBw)
+          read.limitingPhase = phaseName;
+      },
+      [&](const std::string& phaseName) {
+        IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-4365@%s%s%s%s%s", context.fileName, phaseName,
+                          instance, instance, read.commType);
+      });
   if (!phases)
     return;
   for (const std::string& phase : *phases)
@@ -481,16 +496,16 @@ void NOCJsonSolutionReader::readPathPhaseGroup_(const JValue& group, PathRead& p
     return;
   }
   const std::set<std::string>* phases = context.spec.getAllPhasesForPhaseGroup(groupName);
-  Walk::forEachObject(group, "Phases", [&](const JValue& phase) {
-    const std::string phaseName = Json::GetStringProperty(phase, "Name");
-    if (!phases || phases->count(phaseName) == 0) {
-      IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-4366@%s%s%s%s", context.fileName, phaseName,
-                        masterName, slaveName);
-      return;
-    }
-    path.readPhaseBw[phaseName] = achievedBw(phase, "ReadAchievedBW");
-    path.writePhaseBw[phaseName] = achievedBw(phase, "WriteAchievedBW");
-  });
+  forEachPhase(
+      group, phases,
+      [&](const JValue& phase, const std::string& phaseName) {
+        path.readPhaseBw[phaseName] = achievedBw(phase, "ReadAchievedBW");
+        path.writePhaseBw[phaseName] = achievedBw(phase, "WriteAchievedBW");
+      },
+      [&](const std::string& phaseName) {
+        IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-4366@%s%s%s%s", context.fileName, phaseName,
+                          masterName, slaveName);
+      });
   if (!phases)
     return;
 
@@ -540,7 +555,8 @@ void NOCJsonSolutionReader::readComponent_(const JValue& element, Context& conte
     if (instance)
       context.result.addPlacement(instance, component);
   }
-  const CompRes::DestId destId(static_cast<unsigned long>(Json::GetIntegrProperty(element, "DestId")));
+  const CompRes::DestId destId(
+      static_cast<unsigned long>(Json::GetIntegrProperty(element, "DestId")));
   const std::vector<const DevHrdIP::Component*>& ports = component->getSubComponents();
   if (ports.empty())
     context.result.setDestIdForComponent(component, destId);

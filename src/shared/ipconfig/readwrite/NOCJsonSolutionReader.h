@@ -72,9 +72,9 @@ public:
                         HDGUIStatus& status);
 
   // The name of the model that a name in the file stands for; false if none.
-  static bool resolveNameUsingResolverInterface(const HIPLogicalObjectNameResolverInterface& resolver,
-                                                const HrdIPToolCntr::TrafficSpec& spec,
-                                                const std::string& name, std::string& out);
+  static bool resolveNameUsingResolverInterface(
+      const HIPLogicalObjectNameResolverInterface& resolver, const HrdIPToolCntr::TrafficSpec& spec,
+      const std::string& name, std::string& out);
   // The memory controller number of "MC<n>_ddrc" in `name` (-1 if none) and
   // the DIMM letter of a DDR5 PHY path in it (empty if none).
   static void getDDRInfo(const std::string& name, int& index, std::string& dimm);
