@@ -28,7 +28,9 @@ namespace NOC {
 // the logical instances, and the destination identifiers of the components.
 //
 // The file's own copy of the logical instances is only a reference: it is
-// read into instances of the call's own. What cannot be matched with the
+// read into instances of the call's own. Paths are read before "Components",
+// so "FromLocked" and "ToLocked" lock only placements that the CompRes
+// already held; a locked path locks its routes instead. What cannot be matched with the
 // models is reported and passed over: an unknown master or slave
 // ("@75-698@%s%s%s"), component ("@75-184@%s"), phase group or phase
 // ("@75-4365@" to "@75-4368@"). A link that the device does not have throws
