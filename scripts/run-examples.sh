@@ -51,6 +51,7 @@ cmp "$examples/traffic.json" "$out/from-gz.json"
 run nocconstraints noc_constraints.json
 run constraints constraints.json
 run constraints placement.json
+run constraints colocation.json
 settle constraints area_groups.json
 "$tool" constraints areagroups "$examples/area_groups.json" "$out/groups.json"
 cmp "$out/area_groups.json" "$out/groups.json"

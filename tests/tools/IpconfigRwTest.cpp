@@ -180,6 +180,19 @@ INSTANTIATE_TEST_SUITE_P(
                 " mem(n,shared_buffer)=ping=(-1,-1,0,64)\n buf(p,data_buffer)=\n attr(e)=(true)\n"
                 " areaGroup(g)=(n,)(\n  low=shim=(3,-1))\n exclude=(false) isSoft=(false) "
                 "contain_routing=(false) exclusive_routing=(false) exclusive_placement=(false)\n"},
+        RunCase{"colocationCheck", nullptr, "constraints check $E/colocation.json", 0,
+                "constraints $E/colocation.json: 12 constraints (2 node, 10 port, 0 net, 0 "
+                "global), 2 FIFO records (1 DMA, 1 stream)\n"},
+        RunCase{"portKindsDump",
+                R"({"PortConstraints": {"p": {"port_loc": {"name": "s", "channel": 1},
+                    "stream_channel": {"column": 1, "row": 2, "offset": 3, "direction": "NORTH",
+                                       "channel": 4},
+                    "colocated_ports": ["q"], "exclusive_colocated_ports": ["r"],
+                    "colocated_dma": ["q"], "fifo_locations": ["f"]}}})",
+                "constraints dump $D/in.json", 0,
+                " abs(p,shim)=(-1,1)\n stream_chan(p)=Absolute:(1,2,4,North)\n"
+                " rel(p,colocated_ports)=(q,) rel(p,exclusive_colocated_ports)=(r,)\n"
+                " rel(p,colocated_dma)=(q,)\n rel(p,fifo_locations)=(f,)\n"},
         RunCase{"areaGroups", nullptr, "constraints areagroups $E/area_groups.json $D/out.json", 0,
                 "constraints $E/area_groups.json -> $D/out.json: 3 groups\n"},
         RunCase{"help", nullptr, "--help", 0, "  metadata: project metadata", true},

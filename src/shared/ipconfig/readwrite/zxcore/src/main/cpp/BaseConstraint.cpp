@@ -158,8 +158,8 @@ void BaseConstraint::setObjName(const std::string& name)
 
 void BaseConstraint::writeSrcInfo(JDocument& doc, JValue& parent, const std::string& key) const
 {
-  if (getObjType() != GLOBAL && isFromSourceFile(srcInfo))
-    addSrcInfoObject(doc, parent, key + "_src_info", srcInfo);
+  if (getObjType() != GLOBAL)
+    writeSrcInfoObject(doc, parent, key, srcInfo);
 }
 
 std::string BaseConstraint::str() const
@@ -351,6 +351,33 @@ bool BaseConstraint::writeAddresses(JDocument& doc, JValue& parent, const char* 
     return false;
   Utils::AddGenericValueProperty(parent, key, array, alloc);
   return true;
+}
+
+bool BaseConstraint::writeNamesWithProperties(JDocument& doc, JValue& parent, const char* key,
+                                              std::vector<std::string> names,
+                                              ConstrPropertiesMap props, ObjectType namesType,
+                                              const BaseNameResolver* resolver)
+{
+  const bool ports = namesType == PORT;
+  if (ports)
+    resolveScopedPortNames(names, resolver);
+  else
+    resolveScopedNodeNames(names, resolver);
+  if (names.empty())
+    return false;
+  if (ports)
+    resolveScopedPortNames(props, resolver);
+  else
+    resolveScopedNodeNames(props, resolver);
+  writeConstraintObjectsWithProperties(names, props, doc, parent, key);
+  return true;
+}
+
+void BaseConstraint::writeSrcInfoObject(JDocument& doc, JValue& parent, const std::string& key,
+                                        const SrcInfo& srcInfo)
+{
+  if (isFromSourceFile(srcInfo))
+    addSrcInfoObject(doc, parent, key + "_src_info", srcInfo);
 }
 
 void BaseConstraint::writeGroupSrcInfo(JDocument& doc, JValue& parent, const SrcInfo& srcInfo)

@@ -142,6 +142,15 @@ protected:
   // and nothing written, when none has.
   static bool writeAddresses(JDocument& doc, JValue& parent, const char* key,
                              std::initializer_list<const Address*> addresses);
+  // The names under `key` as by writeConstraintObjectsWithProperties, after
+  // the names and the keys of `props` have passed the scoped resolver
+  // operation of `namesType` (NODE or PORT). False when no name is left.
+  static bool writeNamesWithProperties(JDocument& doc, JValue& parent, const char* key,
+                                       std::vector<std::string> names, ConstrPropertiesMap props,
+                                       ObjectType namesType, const BaseNameResolver* resolver);
+  // `key` + "_src_info" for a location in another source file.
+  static void writeSrcInfoObject(JDocument& doc, JValue& parent, const std::string& key,
+                                 const SrcInfo& srcInfo);
   // A group's location in another source file, under "srcInfo".
   static void writeGroupSrcInfo(JDocument& doc, JValue& parent, const SrcInfo& srcInfo);
 

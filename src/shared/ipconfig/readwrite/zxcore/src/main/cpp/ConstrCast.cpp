@@ -3,9 +3,16 @@
 #include "AreaGroupConstr.h"
 #include "AttrConstr.h"
 #include "BufferConstr.h"
+#include "ColocatedDmaConstr.h"
+#include "ColocatedMemoriesConstr.h"
+#include "ColocatedNodesConstr.h"
+#include "ColocatedPortsConstr.h"
+#include "FifoLocationsConstr.h"
 #include "MemConstr.h"
+#include "PortLocConstr.h"
 #include "ReservedMemoryConstr.h"
 #include "ShimConstr.h"
+#include "StreamChannelConstr.h"
 #include "TileConstr.h"
 
 namespace qpe::constraints {
@@ -62,9 +69,9 @@ const ShimConstr* ConstrCast::toShim(const BaseConstraint* constr)
   return toShim(const_cast<BaseConstraint*>(constr));
 }
 
-PortLocConstr* ConstrCast::toPortLoc(BaseConstraint*)
+PortLocConstr* ConstrCast::toPortLoc(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<PortLocConstr>(constr, BaseConstraint::PortLoc);
 }
 
 const PortLocConstr* ConstrCast::toPortLoc(const BaseConstraint* constr)
@@ -72,9 +79,9 @@ const PortLocConstr* ConstrCast::toPortLoc(const BaseConstraint* constr)
   return toPortLoc(const_cast<BaseConstraint*>(constr));
 }
 
-StreamChannelConstr* ConstrCast::toStreamChannel(BaseConstraint*)
+StreamChannelConstr* ConstrCast::toStreamChannel(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<StreamChannelConstr>(constr, BaseConstraint::StreamChannel);
 }
 
 const StreamChannelConstr* ConstrCast::toStreamChannel(const BaseConstraint* constr)
@@ -92,9 +99,9 @@ const AttrConstr* ConstrCast::toAttr(const BaseConstraint* constr)
   return toAttr(const_cast<BaseConstraint*>(constr));
 }
 
-ColocatedNodesConstr* ConstrCast::toColocatedNodes(BaseConstraint*)
+ColocatedNodesConstr* ConstrCast::toColocatedNodes(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<ColocatedNodesConstr>(constr, BaseConstraint::ColocatedNodes);
 }
 
 const ColocatedNodesConstr* ConstrCast::toColocatedNodes(const BaseConstraint* constr)
@@ -112,9 +119,9 @@ const RelativeNodesConstr* ConstrCast::toRelativeNodes(const BaseConstraint* con
   return toRelativeNodes(const_cast<BaseConstraint*>(constr));
 }
 
-ColocatedPortsConstr* ConstrCast::toColocatedPorts(BaseConstraint*)
+ColocatedPortsConstr* ConstrCast::toColocatedPorts(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<ColocatedPortsConstr>(constr, BaseConstraint::ColocatedPorts);
 }
 
 const ColocatedPortsConstr* ConstrCast::toColocatedPorts(const BaseConstraint* constr)
@@ -122,9 +129,9 @@ const ColocatedPortsConstr* ConstrCast::toColocatedPorts(const BaseConstraint* c
   return toColocatedPorts(const_cast<BaseConstraint*>(constr));
 }
 
-ColocatedDmaConstr* ConstrCast::toColocatedDma(BaseConstraint*)
+ColocatedDmaConstr* ConstrCast::toColocatedDma(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<ColocatedDmaConstr>(constr, BaseConstraint::ColocatedDma);
 }
 
 const ColocatedDmaConstr* ConstrCast::toColocatedDma(const BaseConstraint* constr)
@@ -132,9 +139,9 @@ const ColocatedDmaConstr* ConstrCast::toColocatedDma(const BaseConstraint* const
   return toColocatedDma(const_cast<BaseConstraint*>(constr));
 }
 
-FifoLocationsConstr* ConstrCast::toFifoLocations(BaseConstraint*)
+FifoLocationsConstr* ConstrCast::toFifoLocations(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<FifoLocationsConstr>(constr, BaseConstraint::FifoLocations);
 }
 
 const FifoLocationsConstr* ConstrCast::toFifoLocations(const BaseConstraint* constr)
@@ -142,9 +149,9 @@ const FifoLocationsConstr* ConstrCast::toFifoLocations(const BaseConstraint* con
   return toFifoLocations(const_cast<BaseConstraint*>(constr));
 }
 
-ColocatedMemoriesConstr* ConstrCast::toColocatedMemories(BaseConstraint*)
+ColocatedMemoriesConstr* ConstrCast::toColocatedMemories(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<ColocatedMemoriesConstr>(constr, BaseConstraint::ColocatedMemories);
 }
 
 const ColocatedMemoriesConstr* ConstrCast::toColocatedMemories(const BaseConstraint* constr)

@@ -1,21 +1,28 @@
 #include "ConstrHandler.h"
+#include "ConstrHandlerTemplates.h"
 
 #include "AreaGroupConstr.h"
 #include "BaseNameResolver.h"
 #include "BaseVisitor.h"
 #include "BufferConstr.h"
+#include "ColocatedDmaConstr.h"
+#include "ColocatedMemoriesConstr.h"
+#include "ColocatedNodesConstr.h"
+#include "ColocatedPortsConstr.h"
 #include "ConstBaseVisitor.h"
 #include "ConstrCast.h"
 #include "ConstrReader.h"
 #include "ConstrUtils.h"
 #include "ConstrWriter.h"
 #include "HEXAlgException.h"
+#include "FifoLocationsConstr.h"
 #include "MemConstr.h"
+#include "PortLocConstr.h"
 #include "PortRenamer.h"
 #include "ReservedMemoryConstr.h"
 #include "ShimConstr.h"
+#include "StreamChannelConstr.h"
 #include "TileConstr.h"
-
 
 #include <algorithm>
 #include <iostream>
@@ -58,56 +65,6 @@ const ObjectConstrs* ConstrHandler::entry_(const std::string& objName) const
 {
   const auto entry = objects.find(objName);
   return entry == objects.end() ? nullptr : &entry->second;
-}
-
-template <typename Kind>
-Kind* ConstrHandler::firstOfKind_(const std::string& objName,
-                                  Kind* (*cast)(BaseConstraint*)) const
-{
-  if (const ObjectConstrs* entry = entry_(objName))
-    for (BaseConstraint* constr : *entry)
-      if (Kind* kind = cast(constr))
-        return kind;
-  return nullptr;
-}
-
-template <typename Kind>
-Kind* ConstrHandler::firstGroup_(ConstrType groupType, const std::string& name,
-                                 Kind* (*cast)(BaseConstraint*)) const
-{
-  const auto entry = groups.find(name);
-  return entry == groups.end() ? nullptr : cast(entry->second.firstOfType(groupType));
-}
-
-template <typename Find, typename Create>
-auto ConstrHandler::findOrCreate_(const std::string& objName, Find find, Create create)
-{
-  decltype(find()) constr = nullptr;
-  if (!objName.empty()) {
-    constr = find();
-    if (!constr)
-      constr = create();
-  }
-  return constr;
-}
-
-template <typename Kind>
-Kind* ConstrHandler::findOrCreateKind_(ConstrType constrType, ObjectType objType,
-                                       const std::string& objName,
-                                       Kind* (*cast)(BaseConstraint*))
-{
-  return findOrCreate_(
-      objName, [&] { return firstOfKind_(objName, cast); },
-      [&] { return cast(createConstr(constrType, objType, objName)); });
-}
-
-template <typename Kind>
-Kind* ConstrHandler::findOrCreateGroup_(ConstrType groupType, const std::string& name,
-                                        Kind* (*cast)(BaseConstraint*))
-{
-  return findOrCreate_(
-      name, [&] { return firstGroup_(groupType, name, cast); },
-      [&] { return cast(createGlobalConstr(groupType, name)); });
 }
 
 template <typename Value>
@@ -616,6 +573,14 @@ BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType ob
   case BaseConstraint::Tile: return make_<TileConstr>(objType, objName);
   case BaseConstraint::Mem: return make_<MemConstr>(objType, objName);
   case BaseConstraint::Shim: return make_<ShimConstr>(objType, objName);
+  case BaseConstraint::PortLoc: return make_<PortLocConstr>(objType, objName);
+  case BaseConstraint::StreamChannel: return make_<StreamChannelConstr>(objType, objName);
+  case BaseConstraint::ColocatedNodes: return make_<ColocatedNodesConstr>(objType, objName);
+  case BaseConstraint::ColocatedPorts: return make_<ColocatedPortsConstr>(objType, objName);
+  case BaseConstraint::ColocatedDma: return make_<ColocatedDmaConstr>(objType, objName);
+  case BaseConstraint::ColocatedMemories:
+    return make_<ColocatedMemoriesConstr>(objType, objName);
+  case BaseConstraint::FifoLocations: return make_<FifoLocationsConstr>(objType, objName);
   default: throw unsupportedType("createConstr", constrType);
   }
 }

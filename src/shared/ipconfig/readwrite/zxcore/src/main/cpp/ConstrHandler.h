@@ -80,8 +80,29 @@ public:
   // of it: "tile" finds "qpe.tile", "fifo_depth" finds "QPE.FIFO_DEPTH".
   virtual BaseConstraint* getConstr(const std::string& objName,
                                     const std::string& constrName) const;
+  // Relations between objects, told from either side: `out` becomes the
+  // object's own list of the kind, if it has one, and gains the name of each
+  // other object whose list of the kind holds `name`, each name once.
+  virtual void getColocatedNodes(const std::string& name, std::vector<std::string>& out) const;
+  virtual void getNotColocatedNodes(const std::string& name,
+                                    std::vector<std::string>& out) const;
+  // Also the ports whose colocated nodes or memories hold `name`.
+  virtual void getColocatedPorts(const std::string& name, std::vector<std::string>& out) const;
+  virtual void getNotColocatedPorts(const std::string& name,
+                                    std::vector<std::string>& out) const;
+  virtual void getExclusiveColocatedPorts(const std::string& name,
+                                          std::vector<std::string>& out) const;
+  virtual void getColocatedDma(const std::string& name, std::vector<std::string>& out) const;
+  virtual void getColocatedMemories(const std::string& name,
+                                    std::vector<std::string>& out) const;
+  virtual void getNotColocatedMemories(const std::string& name,
+                                       std::vector<std::string>& out) const;
   // Plain. The object's constraints of that type.
   void getConstrs(const std::string& objName, ConstrType constrType, Constrs& out) const;
+  // Plain. Every constraint of the kind, in creation order: for
+  // ColocatedNodesConstr, ColocatedPortsConstr and ColocatedMemoriesConstr.
+  template <typename Kind>
+  void getConstrs(std::vector<Kind*>& out) const;
 
   // Plain. The object's first constraint of the kind, or null. Declared for
   // every kind at once, since they need only the kind's cast: each gives null
@@ -138,6 +159,45 @@ public:
   virtual void setReservedMemoryConstr(const std::string& objName, const Address& address);
   virtual void setShimConstr(const std::string& objName, const std::string& name);
   virtual void setShimConstr(const std::string& objName, int column, int channel);
+  // Port locations; the forms without a shim channel type give it Unset.
+  virtual void setPortLocConstr(const std::string& objName, const std::string& name, int channel);
+  virtual void setPortLocConstr(const std::string& objName, const std::string& name, int channel,
+                                PhysicalSpec::ShimChannelType channelType);
+  virtual void setPortLocConstr(const std::string& objName, PhysicalSpec::PhysicalType tileType,
+                                int column, int row, int channel);
+  virtual void setPortLocConstr(const std::string& objName, PhysicalSpec::PhysicalType tileType,
+                                int column, int row, int channel,
+                                PhysicalSpec::ShimChannelType channelType);
+  // Stream channels, absolute and relative; the direction is a text.
+  virtual void setStreamChannelConstr(const std::string& objName, int column, int row,
+                                      int channel, const std::string& direction);
+  virtual void setStreamChannelConstr(const std::string& objName, int offset, int channel,
+                                      const std::string& direction);
+  // Colocation: the list of things to place with the object, or with
+  // `isNot` the list of those to keep apart from it, is replaced. The kinds
+  // of ports, DMA and FIFO locations throw HEXAlgException unless `objType`
+  // is PORT, also for an empty name.
+  virtual void setColocatedNodesConstr(ObjectType objType, const std::string& objName,
+                                       const std::vector<std::string>& names, bool isNot);
+  virtual void setColocatedPortsConstr(ObjectType objType, const std::string& objName,
+                                       const std::vector<std::string>& names, bool isNot);
+  virtual void setExclusiveColocatedPortsConstr(ObjectType objType, const std::string& objName,
+                                                const std::vector<std::string>& names);
+  virtual void setColocatedDmaConstr(ObjectType objType, const std::string& objName,
+                                     const std::vector<std::string>& names);
+  // The record names that the port's FIFO locations refer to.
+  virtual void setFifoLocationsConstr(ObjectType objType, const std::string& objName,
+                                      const std::vector<std::string>& recordNames);
+  // The port's FIFO location becomes the record of these contents, which is
+  // made under a generated name if there is none.
+  virtual void setDmaFifoLocationConstr(ObjectType objType, const std::string& objName,
+                                        PhysicalSpec::PhysicalType tileType, int column, int row,
+                                        int size, int offset, int bankId);
+  virtual void setStreamFifoLocationConstr(ObjectType objType, const std::string& objName,
+                                           PhysicalSpec::PhysicalType tileType, int column,
+                                           int row, int channel);
+  virtual void setColocatedMemoriesConstr(ObjectType objType, const std::string& objName,
+                                          const std::vector<std::string>& names, bool isNot);
   // Area groups: nothing for an empty name. The group of that name, made if
   // there is none, takes the nodes, ranges and flags given.
   virtual void setAreaGroupConstr(const std::string& name, const std::vector<std::string>& nodes,
@@ -145,6 +205,23 @@ public:
                                   bool isSoft, bool containRouting, bool exclusiveRouting,
                                   bool exclusivePlacement);
 
+  // The add family: the names join those of the object's constraint of the
+  // kind, or the set operation makes it. Nothing for an empty name, after the
+  // test of the object type.
+  virtual void addFifoLocationsConstr(ObjectType objType, const std::string& objName,
+                                      const std::vector<std::string>& recordNames);
+  virtual void addDmaFifoLocationConstr(ObjectType objType, const std::string& objName,
+                                        PhysicalSpec::PhysicalType tileType, int column, int row,
+                                        int size, int offset, int bankId);
+  virtual void addStreamFifoLocationConstr(ObjectType objType, const std::string& objName,
+                                           PhysicalSpec::PhysicalType tileType, int column,
+                                           int row, int channel);
+  virtual void addColocatedNodesConstr(ObjectType objType, const std::string& objName,
+                                       const std::vector<std::string>& names, bool isNot);
+  virtual void addColocatedPortsConstr(ObjectType objType, const std::string& objName,
+                                       const std::vector<std::string>& names, bool isNot);
+  virtual void addExclusiveColocatedPortsConstr(ObjectType objType, const std::string& objName,
+                                                const std::vector<std::string>& names);
   // FIFO records, forwarded to the table.
   virtual const DmaFifoRecord* addDmaFifoRecord(const std::string& name,
                                                 PhysicalSpec::PhysicalType tileType, int column,
@@ -152,6 +229,10 @@ public:
   virtual const StreamFifoRecord* addStreamFifoRecord(const std::string& name,
                                                       PhysicalSpec::PhysicalType tileType,
                                                       int column, int row, int channel);
+  virtual void addColocatedDmaConstr(ObjectType objType, const std::string& objName,
+                                     const std::vector<std::string>& names);
+  virtual void addColocatedMemoriesConstr(ObjectType objType, const std::string& objName,
+                                          const std::vector<std::string>& names, bool isNot);
   // The nodes and ranges join those of an existing group, whose flags stay;
   // a new group is made as by setAreaGroupConstr.
   virtual void addAreaGroupConstr(const std::string& name, const std::vector<std::string>& nodes,
@@ -223,6 +304,12 @@ private:
   template <typename Kind>
   Kind* findOrCreateGroup_(ConstrType groupType, const std::string& name,
                            Kind* (*cast)(BaseConstraint*));
+  // The set and add shapes of the kinds on ports only.
+  template <typename Kind>
+  Kind* findOrCreatePortKind_(const char* operation, ConstrType constrType, ObjectType objType,
+                              const std::string& objName, Kind* (*cast)(BaseConstraint*));
+  template <typename Kind, typename Add, typename Set>
+  void addOrSet_(const std::string& objName, Kind* (*cast)(BaseConstraint*), Add add, Set set);
   template <typename Value>
   void setAttr_(ObjectType objType, const std::string& objName, const std::string& attrName,
                 AttrConstr::AttrType type, Value value);

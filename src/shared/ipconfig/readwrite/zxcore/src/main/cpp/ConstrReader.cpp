@@ -2,6 +2,9 @@
 
 #include "AreaGroupConstr.h"
 #include "BaseNameResolver.h"
+#include "ColocatedMemoriesConstr.h"
+#include "ColocatedNodesConstr.h"
+#include "ColocatedPortsConstr.h"
 #include "ConstrHandler.h"
 #include "ConstrUtils.h"
 #include "HEXAlgException.h"
@@ -20,7 +23,9 @@
 #include <boost/algorithm/string/predicate.hpp>
 #include <boost/filesystem/path.hpp>
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <fstream>
 
 namespace qpe::constraints {
@@ -53,13 +58,91 @@ int integerOr(const JValue& object, const char* key)
   return Json::IsIntegrProperty(object, key) ? Json::GetIntegrProperty(object, key) : -1;
 }
 
-// The lists of a "not_" or "exclusive_" key keep their source locations in a
-// record of their own inside their colocation kind, not in the constraint's.
-bool hasOwnSrcInfoRecord(const std::string& key)
+using Names = std::vector<std::string>;
+
+// A colocation key: how its names resolve, how the handler adds them, and
+// where the soft flags of the names go.
+struct ColocationKey {
+  const char* key;
+  bool ports;
+  void (*add)(ConstrHandler& handler, BaseConstraint::ObjectType objType,
+              const std::string& objName, const Names& names);
+  void (*keepProperties)(ConstrHandler& handler, const std::string& objName,
+                         const std::string& name, ConstrProperties props);
+};
+
+template <typename Kind>
+void keepOn(Kind* constr, void (Kind::*keep)(const std::string&, ConstrProperties),
+            const std::string& name, ConstrProperties props)
 {
-  return ConstrReader::isNotEqualBaseConstraint(key) ||
-         ConstrReader::isExclusiveBaseConstraint(key);
+  if (constr)
+    (constr->*keep)(name, props);
 }
+
+// The keys of both nodes and ports, then those of ports alone.
+const ColocationKey colocationKeys[] = {
+    {"colocated_nodes", false,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addColocatedNodesConstr(t, o, n, false);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn<NodeColocationConstr>(h.getColocatedNodesConstr(o),
+                                    &NodeColocationConstr::setConstrObjectProperties, n, p);
+     }},
+    {"not_colocated_nodes", false,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addColocatedNodesConstr(t, o, n, true);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn<NodeColocationConstr>(h.getColocatedNodesConstr(o),
+                                    &NodeColocationConstr::setNotColocatedConstrObjectProperties,
+                                    n, p);
+     }},
+    {"colocated_reserved_memories", false,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addColocatedMemoriesConstr(t, o, n, false);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn<NodeColocationConstr>(h.getColocatedMemoriesConstr(o),
+                                    &NodeColocationConstr::setConstrObjectProperties, n, p);
+     }},
+    {"not_colocated_reserved_memories", false,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addColocatedMemoriesConstr(t, o, n, true);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn<NodeColocationConstr>(h.getColocatedMemoriesConstr(o),
+                                    &NodeColocationConstr::setNotColocatedConstrObjectProperties,
+                                    n, p);
+     }},
+    {"colocated_ports", true,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addColocatedPortsConstr(t, o, n, false);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn<ColocatedPortsConstr>(h.getColocatedPortsConstr(o),
+                                    &ColocatedPortsConstr::setConstrObjectProperties, n, p);
+     }},
+    {"not_colocated_ports", true,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addColocatedPortsConstr(t, o, n, true);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn(h.getColocatedPortsConstr(o),
+              &ColocatedPortsConstr::setNotColocatedConstrObjectProperties, n, p);
+     }},
+    {"exclusive_colocated_ports", true,
+     [](ConstrHandler& h, BaseConstraint::ObjectType t, const std::string& o, const Names& n) {
+       h.addExclusiveColocatedPortsConstr(t, o, n);
+     },
+     [](ConstrHandler& h, const std::string& o, const std::string& n, ConstrProperties p) {
+       keepOn(h.getColocatedPortsConstr(o),
+              &ColocatedPortsConstr::setExclusiveColocatedConstrObjectProperties, n, p);
+     }},
+};
+
+// Node entries know the first four.
+constexpr std::size_t nodeColocationKeys = 4;
 
 }  // namespace
 
@@ -347,12 +430,14 @@ void ConstrReader::parseNodeBaseConstraint_(const JValue& value, const std::stri
     parseShimConstraint_(value, objName);
   } else if (key == "reserved_memory") {
     parseReservedMemoryConstraint_(value, objName);
-  } else if (!isSrcInfoBaseConstraint(key)) {
+  } else if (!parseColocationList_(value, key, BaseConstraint::NODE, objName) &&
+             !isSrcInfoBaseConstraint(key)) {
     parseAttrBaseConstraint_(value, key, BaseConstraint::NODE, objName);
   }
 }
 
-// As for nodes, with the keys of the port kinds.
+// As for nodes, with the keys of the port kinds; the colocation keys are
+// tested last, which changes nothing since no two keys are alike.
 void ConstrReader::parsePortBaseConstraint_(const JValue& value, const std::string& key,
                                             const std::string& objName)
 {
@@ -360,7 +445,16 @@ void ConstrReader::parsePortBaseConstraint_(const JValue& value, const std::stri
     std::array<Address, 3> addresses;
     if (parseAddresses_(value, objName, addresses.data(), addresses.size()))
       handler.setBufferConstr(objName, addresses[0], addresses[1], addresses[2]);
-  } else if (!isSrcInfoBaseConstraint(key)) {
+  } else if (key == "stream_channel") {
+    parseStreamChannelConstraint_(value, objName);
+  } else if (key == "colocated_dma") {
+    parseColocatedDmaConstraint_(value, objName);
+  } else if (key == "fifo_locations") {
+    parseFifoLocationsConstraint_(value, objName);
+  } else if (key == "loc" || key == "port_loc") {
+    parsePortLocConstraint_(value, objName);
+  } else if (!parseColocationList_(value, key, BaseConstraint::PORT, objName) &&
+             !isSrcInfoBaseConstraint(key)) {
     parseAttrBaseConstraint_(value, key, BaseConstraint::PORT, objName);
   }
 }
@@ -416,6 +510,97 @@ void ConstrReader::parseReservedMemoryConstraint_(const JValue& value, const std
   parseAddress_(value, address);
   if (address.isComplete())
     handler.setReservedMemoryConstr(objName, address);
+}
+
+bool ConstrReader::parseColocationList_(const JValue& value, const std::string& key,
+                                       BaseConstraint::ObjectType objType,
+                                       const std::string& objName)
+{
+  const std::size_t known =
+      objType == BaseConstraint::NODE ? nodeColocationKeys : std::size(colocationKeys);
+  const ColocationKey* const end = colocationKeys + known;
+  const ColocationKey* colocation = std::find_if(
+      colocationKeys, end, [&key](const ColocationKey& entry) { return key == entry.key; });
+  if (colocation == end)
+    return false;
+  Names names;
+  ConstrPropertiesMap properties;
+  resolveNames_(json::readObjectArrayWithProperties(value), colocation->ports, names, properties);
+  if (names.empty())
+    return true;
+  colocation->add(handler, objType, objName, names);
+  for (const auto& [name, props] : properties)
+    colocation->keepProperties(handler, objName, name, props);
+  return true;
+}
+
+void ConstrReader::parseColocatedDmaConstraint_(const JValue& value, const std::string& objName)
+{
+  Names names = json::readStringArrayValue(value);
+  resolver->resolvePortNames(names);
+  if (!names.empty())
+    handler.addColocatedDmaConstr(BaseConstraint::PORT, objName, names);
+}
+
+// Record names are no object names: they are not resolved.
+void ConstrReader::parseFifoLocationsConstraint_(const JValue& value, const std::string& objName)
+{
+  const Names names = json::readStringArrayValue(value);
+  if (!names.empty())
+    handler.setFifoLocationsConstr(BaseConstraint::PORT, objName, names);
+}
+
+// A name, else a column of 0 or more; the tile type of a port's location
+// defaults to shim.
+void ConstrReader::parsePortLocConstraint_(const JValue& value, const std::string& objName)
+{
+  const int channel = integerOr(value, "channel");
+  const PhysicalSpec::ShimChannelType channelType =
+      PhysicalSpec::toPhysicalSpecShimChannelType(Json::GetStringProperty(value, "channel_type"));
+  const std::string name = Json::GetStringProperty(value, "name");
+  if (!name.empty()) {
+    handler.setPortLocConstr(objName, name, channel, channelType);
+    return;
+  }
+  const int column = integerOr(value, "column");
+  if (!isValSet(column))
+    return;
+  std::string tileType = Json::GetStringProperty(value, "tile_type");
+  if (tileType.empty())
+    tileType = "shim";
+  handler.setPortLocConstr(objName, PhysicalSpec::toPhysicalSpecTileType(tileType), column,
+                           integerOr(value, "row"), channel, channelType);
+}
+
+// The absolute form, else the relative one with a direction.
+void ConstrReader::parseStreamChannelConstraint_(const JValue& value, const std::string& objName)
+{
+  const int column = integerOr(value, "column");
+  const int row = integerOr(value, "row");
+  const int offset = integerOr(value, "offset");
+  const int channel = integerOr(value, "channel");
+  const std::string direction = Json::GetStringProperty(value, "direction");
+  if (isValSet(column) && isValSet(row))
+    handler.setStreamChannelConstr(objName, column, row, channel, direction);
+  else if (isValSet(offset) && !direction.empty())
+    handler.setStreamChannelConstr(objName, offset, channel, direction);
+}
+
+void ConstrReader::resolveNames_(const std::vector<std::pair<std::string, ConstrProperties>>& pairs,
+                                 bool ports, Names& names, ConstrPropertiesMap& properties) const
+{
+  Names resolved;
+  for (const auto& [name, props] : pairs) {
+    resolved.assign(1, name);
+    if (ports)
+      resolver->resolvePortNames(resolved);
+    else
+      resolver->resolveNodeNames(resolved);
+    for (const std::string& each : resolved) {
+      names.push_back(each);
+      properties[each] = props;
+    }
+  }
 }
 
 bool ConstrReader::parseAddresses_(const JValue& value, const std::string& objName,
@@ -543,10 +728,17 @@ void ConstrReader::parseStreamFifoRecord_(const JValue& value, const std::string
 // The place of the key in this file, found by text; line and column 0 when
 // the text is not found. "tile" finds the constraint "qpe.tile" through the
 // handler's canonical lookup.
+//
+// A "not_" key's list keeps its location in a record of its own, which the
+// lookup by the key does not reach: such locations do not survive a read.
 void ConstrReader::setUserJsonSrcInfo_(const std::string& key, const std::string& objName)
 {
-  if (isSrcInfoBaseConstraint(key) || hasOwnSrcInfoRecord(key))
+  if (isSrcInfoBaseConstraint(key) || isNotEqualBaseConstraint(key))
     return;
+  if (isExclusiveBaseConstraint(key)) {
+    setUserJsonExclusiveSrcInfo_(key, objName);
+    return;
+  }
   BaseConstraint* constr = handler.getConstr(objName, key);
   if (!constr)
     return;
@@ -560,14 +752,41 @@ void ConstrReader::setUserJsonSrcInfo_(const std::string& key, const std::string
 void ConstrReader::parseSrcInfo_(const JValue& value, const std::string& key,
                                  const std::string& objName)
 {
-  if (!isSrcInfoBaseConstraint(key) || hasOwnSrcInfoRecord(key))
+  if (!isSrcInfoBaseConstraint(key) || isNotEqualBaseConstraint(key))
     return;
+  if (isExclusiveBaseConstraint(key)) {
+    parseExclusiveSrcInfo_(value, objName);
+    return;
+  }
   BaseConstraint* constr = handler.getConstr(objName, getConstrName(key));
   std::string file;
   std::uint32_t line = 0;
   std::uint32_t column = 0;
   if (constr && json::readSrcInfo(value, file, line, column))
     constr->getSrcInfo().set(SrcInfo::SourceFile, file, line, column);
+}
+
+void ConstrReader::setUserJsonExclusiveSrcInfo_(const std::string& key,
+                                                const std::string& objName)
+{
+  ColocatedPortsConstr* colocation = handler.getColocatedPortsConstr(objName);
+  if (!colocation)
+    return;
+  std::uint32_t line = 0;
+  std::uint32_t column = 0;
+  findLocInJSON_(objName, key, line, column);
+  colocation->getExclusiveSrcInfo().set(SrcInfo::UserJson, locations_().recordedPath, line,
+                                        column);
+}
+
+void ConstrReader::parseExclusiveSrcInfo_(const JValue& value, const std::string& objName)
+{
+  ColocatedPortsConstr* colocation = handler.getColocatedPortsConstr(objName);
+  std::string file;
+  std::uint32_t line = 0;
+  std::uint32_t column = 0;
+  if (colocation && json::readSrcInfo(value, file, line, column))
+    colocation->getExclusiveSrcInfo().set(SrcInfo::SourceFile, file, line, column);
 }
 
 // A group's location: where its name first stands in this file, or the

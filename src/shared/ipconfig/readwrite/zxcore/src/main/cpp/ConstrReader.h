@@ -10,6 +10,7 @@
 #include <iosfwd>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qpe::constraints {
@@ -97,6 +98,18 @@ private:
   void parseTileConstraint_(const JValue& value, const std::string& objName);
   void parseShimConstraint_(const JValue& value, const std::string& objName);
   void parseReservedMemoryConstraint_(const JValue& value, const std::string& objName);
+  // A list with properties of a colocation key; false for a key that is none.
+  bool parseColocationList_(const JValue& value, const std::string& key,
+                            BaseConstraint::ObjectType objType, const std::string& objName);
+  void parseColocatedDmaConstraint_(const JValue& value, const std::string& objName);
+  void parseFifoLocationsConstraint_(const JValue& value, const std::string& objName);
+  void parsePortLocConstraint_(const JValue& value, const std::string& objName);
+  void parseStreamChannelConstraint_(const JValue& value, const std::string& objName);
+  // Each name through the resolver's operation for node or port lists; the
+  // names it gives take the properties of the file's name.
+  void resolveNames_(const std::vector<std::pair<std::string, ConstrProperties>>& pairs,
+                     bool ports, std::vector<std::string>& names,
+                     ConstrPropertiesMap& properties) const;
   // The first `count` of an array of one to three addresses; false, reported,
   // for any other value.
   bool parseAddresses_(const JValue& value, const std::string& objName, Address* addresses,
@@ -121,6 +134,9 @@ private:
   void parseStreamFifoRecord_(const JValue& value, const std::string& name);
   void setUserJsonSrcInfo_(const std::string& key, const std::string& objName);
   void parseSrcInfo_(const JValue& value, const std::string& key, const std::string& objName);
+  // The exclusive list's own location, in the object's ColocatedPortsConstr.
+  void setUserJsonExclusiveSrcInfo_(const std::string& key, const std::string& objName);
+  void parseExclusiveSrcInfo_(const JValue& value, const std::string& objName);
   void parseAreaGroupSrcInfo_(const JValue& value, const std::string& key,
                               const std::string& name);
   SrcInfo* getGroupSrcInfo_(const std::string& key, const std::string& name) const;

@@ -129,6 +129,21 @@ const StreamFifoRecord* FifoLocationsRecords::findStreamFifoRecordMatching(
   return firstMatching(streamByContents, probe, records);
 }
 
+const DmaFifoRecord* FifoLocationsRecords::findOrAddDmaFifoRecord(
+    PhysicalSpec::PhysicalType tileType, int column, int row, int size, int offset, int bankId)
+{
+  const DmaFifoRecord* record =
+      findDmaFifoRecordMatching(tileType, column, row, size, offset, bankId);
+  return record ? record : addDmaFifoRecord(tileType, column, row, size, offset, bankId);
+}
+
+const StreamFifoRecord* FifoLocationsRecords::findOrAddStreamFifoRecord(
+    PhysicalSpec::PhysicalType tileType, int column, int row, int channel)
+{
+  const StreamFifoRecord* record = findStreamFifoRecordMatching(tileType, column, row, channel);
+  return record ? record : addStreamFifoRecord(tileType, column, row, channel);
+}
+
 void FifoLocationsRecords::write(JDocument& doc, JValue& parent) const
 {
   if (records.empty())

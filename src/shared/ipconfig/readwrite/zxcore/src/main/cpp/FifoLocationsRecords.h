@@ -63,6 +63,13 @@ public:
   const StreamFifoRecord* findStreamFifoRecordMatching(PhysicalSpec::PhysicalType tileType,
                                                        int column, int row, int channel) const;
 
+  // The record of these contents, else a new one under a generated name;
+  // null when that name holds a record of another kind.
+  const DmaFifoRecord* findOrAddDmaFifoRecord(PhysicalSpec::PhysicalType tileType, int column,
+                                              int row, int size, int offset, int bankId);
+  const StreamFifoRecord* findOrAddStreamFifoRecord(PhysicalSpec::PhysicalType tileType,
+                                                    int column, int row, int channel);
+
   // "fifo_locations_records": {"dma_fifos": {...}, "stream_fifos": {...}}
   // into `parent`; nothing for an empty table. Unspecified records are left out.
   void write(JDocument& doc, JValue& parent) const;

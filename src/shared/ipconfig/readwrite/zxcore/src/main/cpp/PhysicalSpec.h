@@ -11,6 +11,7 @@
 namespace qpe::constraints {
 
 class TileConstr;
+class PortLocConstr;
 
 // One location on the compute array as the user wrote it: by name, or by
 // column and row (column and channel for a shim). Nothing is checked against
@@ -107,6 +108,7 @@ protected:
   // location of a tile constraint, whose tile type is this type.
   void setPhysicalType(PhysicalType type) { physicalType = type; }
   friend class TileConstr;
+  friend class PortLocConstr;
 
 private:
   AttrValue name;
