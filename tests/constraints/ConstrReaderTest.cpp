@@ -2,6 +2,8 @@
 
 #include "AreaGroupConstr.h"
 #include "AttrConstr.h"
+#include "ColocatedNodesConstr.h"
+#include "ColocatedPortsConstr.h"
 #include "ConstrReader.h"
 #include "SchemaFile.h"
 
@@ -109,6 +111,46 @@ TEST_F(ConstrReaderTest, KeysGetThePlaceOfTheKeyInTheFileOrTheirOwnSourceLocatio
   EXPECT_EQ(location("n", "not_e"), "2  0:0") << "no location for a not- key";
   EXPECT_EQ(location("e", "w"), "0 " + path + " 17:7") << "a source key before it counts not";
   EXPECT_EQ(location("e", "v"), "1 net.cpp 9:4");
+}
+
+// The list of a "not_" key keeps no location, found or given; the list of an
+// "exclusive_" key keeps both, in its own record.
+TEST_F(ConstrReaderTest, NotListsLoseTheirLocationsExclusiveListsKeepTheirOwn)
+{
+  ConstrReader reader(handler);
+  reader.read(put(R"({
+  "NodeConstraints": {
+    "n": {
+      "colocated_nodes": ["a"],
+      "not_colocated_nodes": ["b"],
+      "not_colocated_nodes_src_info": {"file": "g.cc", "line": 3, "column": 4}
+    }
+  },
+  "PortConstraints": {
+    "p": {
+      "exclusive_colocated_ports": ["q"],
+      "not_colocated_ports": ["r"]
+    },
+    "p2": {
+      "exclusive_colocated_ports": ["q"],
+      "exclusive_colocated_ports_src_info": {"file": "x.cc", "line": 5, "column": 6},
+      "colocated_ports": ["s"]
+    }
+  }
+})"),
+              true);
+  const std::string path = reader.getJsonPath();
+  const ColocatedNodesConstr* nodes = handler.getColocatedNodesConstr("n");
+  ASSERT_NE(nodes, nullptr);
+  EXPECT_EQ(where(nodes->getSrcInfo()), "0 " + path + " 4:7");
+  EXPECT_EQ(where(nodes->getNotColocatedSrcInfo()), "2  0:0");
+  const ColocatedPortsConstr* ports = handler.getColocatedPortsConstr("p");
+  EXPECT_EQ(where(ports->getExclusiveSrcInfo()), "0 " + path + " 11:7");
+  EXPECT_EQ(where(ports->getNotColocatedSrcInfo()), "2  0:0");
+  EXPECT_EQ(where(ports->getSrcInfo()), "2  0:0") << "no key of the first list";
+  ports = handler.getColocatedPortsConstr("p2");
+  EXPECT_EQ(where(ports->getExclusiveSrcInfo()), "1 x.cc 5:6");
+  EXPECT_EQ(where(ports->getSrcInfo()), "0 " + path + " 17:7");
 }
 
 TEST_F(ConstrReaderTest, AKeyThatIsNotFoundByTextGetsLineZero)
@@ -306,14 +348,11 @@ const FailureCase failures[] = {
     {"SrcInfoLineNegative", R"({"NodeConstraints": {"n": {"k_src_info": {"line": -1}}}})",
      Schema::shipped, true, violation,
      {"$F", "", "patternProperties", "/NodeConstraints/n/k_src_info"}},
-    {"ListElementNotANameOrObject", R"({"NodeConstraints": {"n": {"colocated_nodes": [1]}}})",
+    {"ListNotAnArray", R"({"NodeConstraints": {"n": {"colocated_nodes": "a"}}})",
      Schema::shipped, true, violation,
-     {"$F", "/definitions/listWithProperties/items", "type",
-      "/NodeConstraints/n/colocated_nodes/0"}},
-    {"PortLocChannelNotAnInteger", R"({"PortConstraints": {"p": {"port_loc": {"channel": "2"}}}})",
-     Schema::shipped, true, violation,
-     {"$F", "/definitions/portLoc/properties/channel", "type",
-      "/PortConstraints/p/port_loc/channel"}}};
+     {"$F", "/definitions/listWithProperties", "type", "/NodeConstraints/n/colocated_nodes"}},
+    {"PortLocNotAnObject", R"({"PortConstraints": {"p": {"port_loc": 2}}})", Schema::shipped,
+     true, violation, {"$F", "/definitions/portLoc", "type", "/PortConstraints/p/port_loc"}}};
 
 INSTANTIATE_TEST_SUITE_P(Failures, ConstrReaderFailureTest, ::testing::ValuesIn(failures),
                          [](const auto& info) { return info.param.name; });

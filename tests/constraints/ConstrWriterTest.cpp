@@ -175,6 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         RoundTripCase{"constraints", examples + "constraints.json", ""},
         RoundTripCase{"placement", examples + "placement.json", ""},
+        RoundTripCase{"colocation", examples + "colocation.json", ""},
         RoundTripCase{"areaGroups", examples + "area_groups.json",
                       data + "area_groups_written.json"},
         RoundTripCase{"placementInKeyOrder", data + "placement_unordered.json",

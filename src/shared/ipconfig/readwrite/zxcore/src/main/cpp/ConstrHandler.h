@@ -252,6 +252,10 @@ public:
   virtual void getAllConstrainedNodes(std::vector<std::string>& out) const;
   virtual void getAllConstrainedPorts(std::vector<std::string>& out) const;
   virtual void getAllConstrainedNets(std::vector<std::string>& out) const;
+  // Appends to `out` each FIFO locations constraint that names the record,
+  // in creation order.
+  virtual void getFifoLocationsConstrs(const std::string& recordName,
+                                       std::vector<FifoLocationsConstr*>& out) const;
   // Takes ownership of `constr` and files it under its object name; null is ignored.
   virtual void addConstraint(BaseConstraint* constr);
   // A new constraint of a kind on a node, port or net, owned by this handler.

@@ -132,4 +132,13 @@ void ConstrHandler::addStreamFifoLocationConstr(ObjectType objType, const std::s
     addFifoLocationsConstr(objType, objName, {record->getName()});
 }
 
+void ConstrHandler::getFifoLocationsConstrs(const std::string& recordName,
+                                            std::vector<FifoLocationsConstr*>& out) const
+{
+  for (BaseConstraint* constr : constrs)
+    if (FifoLocationsConstr* fifos = ConstrCast::toFifoLocations(constr))
+      if (fifos->containsFifoRecord(recordName))
+        out.push_back(fifos);
+}
+
 }  // namespace qpe::constraints
