@@ -52,6 +52,7 @@ run nocconstraints noc_constraints.json
 run constraints constraints.json
 run constraints placement.json
 run constraints colocation.json
+run constraints every_kind.json
 settle constraints area_groups.json
 "$tool" constraints areagroups "$examples/area_groups.json" "$out/groups.json"
 cmp "$out/area_groups.json" "$out/groups.json"

@@ -368,7 +368,8 @@ TEST_F(AreaGroupReadTest, GroupsOfAFile)
               bad("@75-588@%s%s", {}), bad("@75-587@%s%s", {}), open(":6"),
               bad("@75-595@%s%s%s", {":6"}), open(":5"), bad("@75-748@%s%s%s", {":5"}),
               bad("@75-747@%s%s", {})});
-  ASSERT_EQ(handler.size(), 2u);
+  ASSERT_EQ(handler.size(), 3u);
+  EXPECT_NE(handler.getInstGroupConstr("g"), nullptr) << "a group of another kind, same name";
   const AreaGroupConstr* g = handler.getAreaGroupConstr("g");
   EXPECT_EQ(g->getNodeGroup(), (Names{"a", "b"}));
   EXPECT_EQ(rangesText(g->getPhysicalGroup()),

@@ -176,6 +176,7 @@ INSTANTIATE_TEST_SUITE_P(
         RoundTripCase{"constraints", examples + "constraints.json", ""},
         RoundTripCase{"placement", examples + "placement.json", ""},
         RoundTripCase{"colocation", examples + "colocation.json", ""},
+        RoundTripCase{"everyKind", examples + "every_kind.json", ""},
         RoundTripCase{"areaGroups", examples + "area_groups.json",
                       data + "area_groups_written.json"},
         RoundTripCase{"placementInKeyOrder", data + "placement_unordered.json",

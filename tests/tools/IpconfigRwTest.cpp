@@ -183,6 +183,19 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"colocationCheck", nullptr, "constraints check $E/colocation.json", 0,
                 "constraints $E/colocation.json: 12 constraints (2 node, 10 port, 0 net, 0 "
                 "global), 2 FIFO records (1 DMA, 1 stream)\n"},
+        RunCase{"everyKindCheck", nullptr, "constraints check $E/every_kind.json", 0,
+                "constraints $E/every_kind.json: 21 constraints (8 node, 7 port, 1 net, 5 "
+                "global), 1 FIFO records (1 DMA, 0 stream)\n"},
+        RunCase{"groupsDump",
+                R"json({"NodeConstraints": {"n": {"relative_nodes": ["a:(Y=2,X=1)", "b:X=3",
+                                                                  "c:(X=z)"]}},
+                    "GlobalConstraints": {"instGroup": {"name": "i", "nodeGroup": ["n"]},
+                      "isomorphicGraphGroup": {"name": "g", "stampedGraphs": ["s"]},
+                      "dependentRoutingGroup": {"name": "d"}}})json",
+                "constraints dump $D/in.json", 0,
+                " rel(n,relative_nodes)=(a:(X=-9999,Y=-9999),b:(X=3,Y=-9999),c:(X=-1,Y=-9999))\n"
+                " instGroup(i)=(n,) isIsomorphic=(false)\n isomorphicGraphGroup(g)=( - s,)\n"
+                " dependentRoutingGroup(d)=()\n"},
         RunCase{"portKindsDump",
                 R"({"PortConstraints": {"p": {"port_loc": {"name": "s", "channel": 1},
                     "stream_channel": {"column": 1, "row": 2, "offset": 3, "direction": "NORTH",

@@ -7,17 +7,19 @@
 #include "ColocatedMemoriesConstr.h"
 #include "ColocatedNodesConstr.h"
 #include "ColocatedPortsConstr.h"
+#include "DependentRoutingGroupConstr.h"
 #include "FifoLocationsConstr.h"
+#include "InstGroupConstr.h"
+#include "IsomorphicGraphGroupConstr.h"
 #include "MemConstr.h"
 #include "PortLocConstr.h"
+#include "RelativeNodesConstr.h"
 #include "ReservedMemoryConstr.h"
 #include "ShimConstr.h"
 #include "StreamChannelConstr.h"
 #include "TileConstr.h"
 
 namespace qpe::constraints {
-
-// The kinds not built yet give null.
 
 BufferConstr* ConstrCast::toBuffer(BaseConstraint* constr)
 {
@@ -109,9 +111,9 @@ const ColocatedNodesConstr* ConstrCast::toColocatedNodes(const BaseConstraint* c
   return toColocatedNodes(const_cast<BaseConstraint*>(constr));
 }
 
-RelativeNodesConstr* ConstrCast::toRelativeNodes(BaseConstraint*)
+RelativeNodesConstr* ConstrCast::toRelativeNodes(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<RelativeNodesConstr>(constr, BaseConstraint::RelativeNodes);
 }
 
 const RelativeNodesConstr* ConstrCast::toRelativeNodes(const BaseConstraint* constr)
@@ -169,9 +171,9 @@ const AreaGroupConstr* ConstrCast::toAreaGroup(const BaseConstraint* constr)
   return toAreaGroup(const_cast<BaseConstraint*>(constr));
 }
 
-InstGroupConstr* ConstrCast::toInstGroup(BaseConstraint*)
+InstGroupConstr* ConstrCast::toInstGroup(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<InstGroupConstr>(constr, BaseConstraint::InstGroup);
 }
 
 const InstGroupConstr* ConstrCast::toInstGroup(const BaseConstraint* constr)
@@ -179,9 +181,9 @@ const InstGroupConstr* ConstrCast::toInstGroup(const BaseConstraint* constr)
   return toInstGroup(const_cast<BaseConstraint*>(constr));
 }
 
-DependentRoutingGroupConstr* ConstrCast::toDependentRoutingGroup(BaseConstraint*)
+DependentRoutingGroupConstr* ConstrCast::toDependentRoutingGroup(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<DependentRoutingGroupConstr>(constr, BaseConstraint::DependentRoutingGroup);
 }
 
 const DependentRoutingGroupConstr* ConstrCast::toDependentRoutingGroup(const BaseConstraint* constr)
@@ -189,9 +191,9 @@ const DependentRoutingGroupConstr* ConstrCast::toDependentRoutingGroup(const Bas
   return toDependentRoutingGroup(const_cast<BaseConstraint*>(constr));
 }
 
-IsomorphicGraphGroupConstr* ConstrCast::toIsomorphicGraphGroup(BaseConstraint*)
+IsomorphicGraphGroupConstr* ConstrCast::toIsomorphicGraphGroup(BaseConstraint* constr)
 {
-  return nullptr;
+  return checkedCast<IsomorphicGraphGroupConstr>(constr, BaseConstraint::IsomorphicGraphGroup);
 }
 
 const IsomorphicGraphGroupConstr* ConstrCast::toIsomorphicGraphGroup(const BaseConstraint* constr)

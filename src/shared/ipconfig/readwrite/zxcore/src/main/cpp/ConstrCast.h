@@ -8,13 +8,7 @@ namespace qpe::constraints {
 
 // Checked downcasts from the root to each kind: null for a null pointer or a
 // constraint of another type, the dynamic cast otherwise. The const overloads
-// forward to the others.
-//
-// Until a kind's class exists its pair gives null, so the visitors reach no
-// operation for it. Completing a kind: include its header in ConstrCast.cpp
-// and let its non-const cast return checkedCast<XConstr>(constr,
-// BaseConstraint::X). The visitors dispatch through these casts and need no
-// change.
+// forward to the others. The visitors dispatch through these casts.
 class IPCONFIG_READWRITE_EXPORT ConstrCast {
 public:
   static BufferConstr* toBuffer(BaseConstraint* constr);

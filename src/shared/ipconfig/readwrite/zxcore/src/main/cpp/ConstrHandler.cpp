@@ -14,11 +14,15 @@
 #include "ConstrReader.h"
 #include "ConstrUtils.h"
 #include "ConstrWriter.h"
+#include "DependentRoutingGroupConstr.h"
 #include "HEXAlgException.h"
+#include "InstGroupConstr.h"
+#include "IsomorphicGraphGroupConstr.h"
 #include "FifoLocationsConstr.h"
 #include "MemConstr.h"
 #include "PortLocConstr.h"
 #include "PortRenamer.h"
+#include "RelativeNodesConstr.h"
 #include "ReservedMemoryConstr.h"
 #include "ShimConstr.h"
 #include "StreamChannelConstr.h"
@@ -581,6 +585,9 @@ BaseConstraint* ConstrHandler::createConstr(ConstrType constrType, ObjectType ob
   case BaseConstraint::ColocatedMemories:
     return make_<ColocatedMemoriesConstr>(objType, objName);
   case BaseConstraint::FifoLocations: return make_<FifoLocationsConstr>(objType, objName);
+  // Offsets between nodes belong to a node, whatever is asked.
+  case BaseConstraint::RelativeNodes:
+    return make_<RelativeNodesConstr>(BaseConstraint::NODE, objName);
   default: throw unsupportedType("createConstr", constrType);
   }
 }
@@ -589,6 +596,9 @@ BaseConstraint* ConstrHandler::createGlobalConstr(ConstrType constrType, const s
 {
   switch (constrType) {
   case BaseConstraint::AreaGroup: return make_<AreaGroupConstr>(name);
+  case BaseConstraint::InstGroup: return make_<InstGroupConstr>(name);
+  case BaseConstraint::DependentRoutingGroup: return make_<DependentRoutingGroupConstr>(name);
+  case BaseConstraint::IsomorphicGraphGroup: return make_<IsomorphicGraphGroupConstr>(name);
   default: throw unsupportedType("createGlobalConstr", constrType);
   }
 }

@@ -4,6 +4,7 @@
 #include "AttrConstr.h"
 #include "BaseConstraint.h"
 #include "ConstrForward.h"
+#include "HDPoint.h"
 #include "FifoLocationsRecords.h"
 #include "ObjectConstrs.h"
 #include "PhysicalRange.h"
@@ -179,6 +180,9 @@ public:
   // is PORT, also for an empty name.
   virtual void setColocatedNodesConstr(ObjectType objType, const std::string& objName,
                                        const std::vector<std::string>& names, bool isNot);
+  // Offsets of other nodes from the object, by name; replaced.
+  virtual void setRelativeNodesConstr(ObjectType objType, const std::string& objName,
+                                      const std::map<std::string, HDPoint<int>>& offsets);
   virtual void setColocatedPortsConstr(ObjectType objType, const std::string& objName,
                                        const std::vector<std::string>& names, bool isNot);
   virtual void setExclusiveColocatedPortsConstr(ObjectType objType, const std::string& objName,
@@ -204,6 +208,15 @@ public:
                                   const std::vector<PhysicalRange>& ranges, bool exclude,
                                   bool isSoft, bool containRouting, bool exclusiveRouting,
                                   bool exclusivePlacement);
+  // The other groups, in the same way: the group of that name takes the
+  // nodes and the flag, or the reference graph and the stamped graphs.
+  virtual void setInstGroupConstr(const std::string& name, const std::vector<std::string>& nodes,
+                                  bool isIsomorphic);
+  virtual void setDependentRoutingGroupConstr(const std::string& name,
+                                              const std::vector<std::string>& nodes);
+  virtual void setIsomorphicGraphGroupConstr(const std::string& name,
+                                             const std::string& referenceGraph,
+                                             const std::vector<std::string>& stampedGraphs);
 
   // The add family: the names join those of the object's constraint of the
   // kind, or the set operation makes it. Nothing for an empty name, after the
@@ -218,6 +231,9 @@ public:
                                            int row, int channel);
   virtual void addColocatedNodesConstr(ObjectType objType, const std::string& objName,
                                        const std::vector<std::string>& names, bool isNot);
+  // The offsets join the object's, a name given again taking its new offset.
+  virtual void addRelativeNodesConstr(ObjectType objType, const std::string& objName,
+                                      const std::map<std::string, HDPoint<int>>& offsets);
   virtual void addColocatedPortsConstr(ObjectType objType, const std::string& objName,
                                        const std::vector<std::string>& names, bool isNot);
   virtual void addExclusiveColocatedPortsConstr(ObjectType objType, const std::string& objName,
@@ -239,6 +255,15 @@ public:
                                   const std::vector<PhysicalRange>& ranges, bool exclude,
                                   bool isSoft, bool containRouting, bool exclusiveRouting,
                                   bool exclusivePlacement);
+  // The nodes join those of an existing group, whose flag stays.
+  virtual void addInstGroupConstr(const std::string& name, const std::vector<std::string>& nodes,
+                                  bool isIsomorphic);
+  virtual void addDependentRoutingGroupConstr(const std::string& name,
+                                              const std::vector<std::string>& nodes);
+  // The reference graph is replaced; the stamped graphs join the group's.
+  virtual void addIsomorphicGraphGroupConstr(const std::string& name,
+                                             const std::string& referenceGraph,
+                                             const std::vector<std::string>& stampedGraphs);
 
   // Clones every constraint of `from` into this handler through the set and
   // add operations, so that they merge into what is here, then copies the

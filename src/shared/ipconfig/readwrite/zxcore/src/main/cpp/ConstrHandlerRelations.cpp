@@ -8,6 +8,7 @@
 #include "ConstrCast.h"
 #include "ConstrHandler.h"
 #include "ConstrHandlerTemplates.h"
+#include "RelativeNodesConstr.h"
 
 #include <unordered_set>
 
@@ -189,6 +190,15 @@ void ConstrHandler::setColocatedNodesConstr(ObjectType objType, const std::strin
   }
 }
 
+void ConstrHandler::setRelativeNodesConstr(ObjectType objType, const std::string& objName,
+                                           const std::map<std::string, HDPoint<int>>& offsets)
+{
+  if (RelativeNodesConstr* relative =
+          findOrCreateKind_(BaseConstraint::RelativeNodes, objType, objName,
+                            &ConstrCast::toRelativeNodes))
+    relative->setNodesWithOffset(offsets);
+}
+
 void ConstrHandler::setColocatedPortsConstr(ObjectType objType, const std::string& objName,
                                             const Names& names, bool isNot)
 {
@@ -246,6 +256,15 @@ void ConstrHandler::addColocatedNodesConstr(ObjectType objType, const std::strin
           colocation.addNodeNames(names);
       },
       [&] { setColocatedNodesConstr(objType, objName, names, isNot); });
+}
+
+void ConstrHandler::addRelativeNodesConstr(ObjectType objType, const std::string& objName,
+                                           const std::map<std::string, HDPoint<int>>& offsets)
+{
+  addOrSet_(
+      objName, &ConstrCast::toRelativeNodes,
+      [&](RelativeNodesConstr& relative) { relative.addNodesWithOffset(offsets); },
+      [&] { setRelativeNodesConstr(objType, objName, offsets); });
 }
 
 void ConstrHandler::addColocatedPortsConstr(ObjectType objType, const std::string& objName,

@@ -5,6 +5,8 @@
 #include "ColocatedMemoriesConstr.h"
 #include "ColocatedNodesConstr.h"
 #include "ColocatedPortsConstr.h"
+#include "ComplexPairWithXY.h"
+#include "DependentRoutingGroupConstr.h"
 #include "ConstrHandler.h"
 #include "ConstrUtils.h"
 #include "HEXAlgException.h"
@@ -12,6 +14,8 @@
 #include "HUTFile.h"
 #include "HUTFileUtils.h"
 #include "IPConfigMessages.h"
+#include "InstGroupConstr.h"
+#include "IsomorphicGraphGroupConstr.h"
 #include "JMemValue.h"
 #include "JShimValue.h"
 #include "JSimpleValue.h"
@@ -26,6 +30,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <map>
 #include <fstream>
 
 namespace qpe::constraints {
@@ -430,6 +435,8 @@ void ConstrReader::parseNodeBaseConstraint_(const JValue& value, const std::stri
     parseShimConstraint_(value, objName);
   } else if (key == "reserved_memory") {
     parseReservedMemoryConstraint_(value, objName);
+  } else if (key == "relative_nodes") {
+    parseRelativeNodesConstraint_(value, objName);
   } else if (!parseColocationList_(value, key, BaseConstraint::NODE, objName) &&
              !isSrcInfoBaseConstraint(key)) {
     parseAttrBaseConstraint_(value, key, BaseConstraint::NODE, objName);
@@ -532,6 +539,29 @@ bool ConstrReader::parseColocationList_(const JValue& value, const std::string& 
   for (const auto& [name, props] : properties)
     colocation->keepProperties(handler, objName, name, props);
   return true;
+}
+
+// A later element of a name overwrites an earlier one.
+void ConstrReader::parseRelativeNodesConstraint_(const JValue& value, const std::string& objName)
+{
+  std::map<std::string, HDPoint<int>> offsets;
+  Names names;
+  for (const std::string& element : json::readStringArrayValue(value)) {
+    std::string name;
+    std::string offset;
+    json::split(element, name, offset, ':');
+    if (name.empty() || offset.empty()) {
+      IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-880@%s", element);
+      continue;
+    }
+    const json::ComplexPairWithXY pair(offset);
+    names.assign(1, name);
+    resolver->resolveNodeNames(names);
+    for (const std::string& resolved : names)
+      offsets[resolved] = HDPoint<int>(pair.x, pair.y);
+  }
+  if (!offsets.empty())
+    handler.addRelativeNodesConstr(BaseConstraint::NODE, objName, offsets);
 }
 
 void ConstrReader::parseColocatedDmaConstraint_(const JValue& value, const std::string& objName)
@@ -641,6 +671,12 @@ void ConstrReader::parseGlobalBaseConstraint_(const std::string& key, const JVal
 {
   if (key == "areaGroup")
     parseAreaGroupBaseConstraint_(value);
+  else if (key == "instGroup")
+    parseInstGroupBaseConstraint_(value);
+  else if (key == "dependentRoutingGroup")
+    parseDependentRoutingGroupBaseConstraint_(value);
+  else if (key == "isomorphicGraphGroup")
+    parseIsomorphicGraphGroupBaseConstraint_(value);
 }
 
 // The ranges are read by kind, tile, shim and mem, and so held in that order.
@@ -670,6 +706,39 @@ void ConstrReader::parseAreaGroupBaseConstraint_(const JValue& value)
       Json::GetBooleanProperty(value, "exclusive_routing"),
       Json::GetBooleanProperty(value, "exclusive_placement"));
   parseAreaGroupSrcInfo_(value, "areaGroup", name);
+}
+
+void ConstrReader::parseInstGroupBaseConstraint_(const JValue& value)
+{
+  const std::string name = json::readStringValue(value, "name");
+  if (name.empty())
+    return;
+  Names nodes = json::readStringArrayValue(value, "nodeGroup");
+  resolver->resolveNodeNames(nodes);
+  handler.addInstGroupConstr(name, nodes, Json::GetBooleanProperty(value, "isisomorphic"));
+  parseAreaGroupSrcInfo_(value, "instGroup", name);
+}
+
+void ConstrReader::parseDependentRoutingGroupBaseConstraint_(const JValue& value)
+{
+  const std::string name = json::readStringValue(value, "name");
+  if (name.empty())
+    return;
+  Names nodes = json::readStringArrayValue(value, "nodeGroup");
+  resolver->resolveNodeNames(nodes);
+  handler.addDependentRoutingGroupConstr(name, nodes);
+  parseAreaGroupSrcInfo_(value, "dependentRoutingGroup", name);
+}
+
+// Graph names are no node names: they are not resolved.
+void ConstrReader::parseIsomorphicGraphGroupBaseConstraint_(const JValue& value)
+{
+  const std::string name = json::readStringValue(value, "name");
+  if (name.empty())
+    return;
+  handler.addIsomorphicGraphGroupConstr(name, json::readStringValue(value, "referenceGraph"),
+                                        json::readStringArrayValue(value, "stampedGraphs"));
+  parseAreaGroupSrcInfo_(value, "isomorphicGraphGroup", name);
 }
 
 void ConstrReader::parseTileGroupValue_(const JValue& value, const std::string& group,
@@ -810,6 +879,12 @@ SrcInfo* ConstrReader::getGroupSrcInfo_(const std::string& key, const std::strin
   BaseConstraint* group = nullptr;
   if (key == "areaGroup")
     group = handler.getAreaGroupConstr(name);
+  else if (key == "instGroup")
+    group = handler.getInstGroupConstr(name);
+  else if (key == "dependentRoutingGroup")
+    group = handler.getDependentRoutingGroupConstr(name);
+  else if (key == "isomorphicGraphGroup")
+    group = handler.getIsomorphicGraphGroupConstr(name);
   return group ? &group->getSrcInfo() : nullptr;
 }
 

@@ -101,6 +101,8 @@ private:
   // A list with properties of a colocation key; false for a key that is none.
   bool parseColocationList_(const JValue& value, const std::string& key,
                             BaseConstraint::ObjectType objType, const std::string& objName);
+  // "name:(X=1,Y=2)" elements; one without a name or an offset is reported.
+  void parseRelativeNodesConstraint_(const JValue& value, const std::string& objName);
   void parseColocatedDmaConstraint_(const JValue& value, const std::string& objName);
   void parseFifoLocationsConstraint_(const JValue& value, const std::string& objName);
   void parsePortLocConstraint_(const JValue& value, const std::string& objName);
@@ -118,6 +120,9 @@ private:
   static bool parseAddress_(const JValue& value, Address& address);
   void parseGlobalBaseConstraint_(const std::string& key, const JValue& value);
   void parseAreaGroupBaseConstraint_(const JValue& value);
+  void parseInstGroupBaseConstraint_(const JValue& value);
+  void parseDependentRoutingGroupBaseConstraint_(const JValue& value);
+  void parseIsomorphicGraphGroupBaseConstraint_(const JValue& value);
   // One element of a group's ranges, appended when it has a first location,
   // reported otherwise.
   void parseTileGroupValue_(const JValue& value, const std::string& group,
