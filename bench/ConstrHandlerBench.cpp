@@ -137,4 +137,48 @@ BENCHMARK(BM_AreaGroupSingleAdds)
     ->Arg(100000)
     ->Unit(benchmark::kMillisecond);
 
+// The worst cases of a relation: one node listing `count` nodes, then
+// `count` nodes each listing one and the same node. Each query answers from
+// both sides.
+void BM_RelationQueries(benchmark::State& state)
+{
+  const int count = static_cast<int>(state.range(0));
+  ConstrHandler handler;
+  std::vector<std::string> members;
+  for (int i = 0; i < count; ++i)
+    members.push_back("member_" + std::to_string(i));
+  handler.addColocatedNodesConstr(BaseConstraint::NODE, "owner", members, false);
+  for (const std::string& member : members)
+    handler.addColocatedNodesConstr(BaseConstraint::NODE, member, {"shared"}, false);
+  std::vector<std::string> out;
+  for (auto _ : state) {
+    handler.getColocatedNodes("owner", out);
+    handler.getColocatedNodes("shared", out);
+    benchmark::DoNotOptimize(out.size());
+  }
+  setItems(state);
+}
+BENCHMARK(BM_RelationQueries)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+// One port's list of `count` names read from its file text, merging one key
+// into the next.
+void BM_ColocationListAdd(benchmark::State& state)
+{
+  const int count = static_cast<int>(state.range(0));
+  std::vector<std::string> names;
+  for (int i = 0; i < count; ++i)
+    names.push_back("port_" + std::to_string(i));
+  for (auto _ : state) {
+    ConstrHandler handler;
+    handler.addColocatedPortsConstr(BaseConstraint::PORT, "p", names, false);
+    handler.addColocatedPortsConstr(BaseConstraint::PORT, "p", names, false);
+    benchmark::DoNotOptimize(handler.size());
+    state.PauseTiming();
+    handler.clear();
+    state.ResumeTiming();
+  }
+  setItems(state);
+}
+BENCHMARK(BM_ColocationListAdd)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
 }  // namespace

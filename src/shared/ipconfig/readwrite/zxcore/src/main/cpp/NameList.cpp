@@ -2,28 +2,22 @@
 
 namespace qpe::constraints {
 
-// The held list is copied to be changed, so the new names go in at once.
 void NameList::add(const std::vector<std::string>& names)
 {
-  std::vector<std::string> grown;
-  for (const std::string& name : names) {
-    if (!members.insert(name).second)
-      continue;
-    if (grown.empty())
-      grown = list.getStringVecVal();
-    grown.push_back(name);
+  if (&names == &list) {
+    const std::vector<std::string> held = names;
+    add(held);
+    return;
   }
-  if (!grown.empty())
-    list.setStringVecVal(grown);
+  for (const std::string& name : names)
+    if (members.insert(name).second)
+      list.push_back(name);
 }
 
 void NameList::set(const std::vector<std::string>& names)
 {
-  if (&names == &list.getStringVecVal()) {
-    const std::vector<std::string> held = names;
-    set(held);
+  if (&names == &list)
     return;
-  }
   list.clear();
   members.clear();
   add(names);
