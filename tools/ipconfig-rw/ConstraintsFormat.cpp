@@ -109,8 +109,9 @@ int dump(const std::vector<std::string>& args, std::ostream&)
 Format constraintsFormat()
 {
   return {"constraints",
-          "compute array constraints file (attributes, FIFO records, placement and area "
-          "groups: read, write; schema qpetools_constr_schema.json)",
+          "compute array constraints file (attributes, placement, port locations, FIFO "
+          "locations, colocation, relative placement and groups: read, write; schema "
+          "qpetools_constr_schema.json)",
           {
               {"check", {"FILE"}, "read FILE and count its constraints and FIFO records", check},
               {"roundtrip", {"IN", "OUT"}, "read IN and write it back to OUT", roundtrip},
