@@ -23,6 +23,35 @@ void setIndent(PrettyWriter& writer)
   writer.SetIndent(' ', 2);
 }
 
+using PrintingValidator =
+    rapidjson::GenericSchemaValidator<JSchemaDocument, ForwardingHandler<PrettyWriter>>;
+
+// One walk: `document` is validated against the schema at `schemaPath` and
+// printed as it goes; a failed walk shows `reportFailure` the validator.
+template <typename ReportFailure>
+bool validateAndPrint(const JDocument& document, std::ostream& out, const std::string& schemaPath,
+                      const ReportFailure& reportFailure)
+{
+  const std::unique_ptr<JSchemaDocument> schema =
+      JsonFileFrame::loadSchema(schemaPath, isl::iostreams::basic_file());
+  rapidjson::OStreamWrapper wrapper(out);
+  PrettyWriter writer(wrapper);
+  setIndent(writer);
+  ForwardingHandler<PrettyWriter> toWriter(writer);
+  PrintingValidator validator(*schema, toWriter);
+  const bool valid = document.Accept(validator);
+  if (!valid)
+    reportFailure(validator);
+  return valid;
+}
+
+std::string stringify(const PrintingValidator::PointerType& pointer)
+{
+  rapidjson::StringBuffer text;
+  pointer.Stringify(text);
+  return text.GetString();
+}
+
 // Opens the canonical name of `path`; `readable` tells whether it is an
 // existing regular file on a good stream.
 struct OpenedInput {
@@ -106,18 +135,21 @@ bool JsonFileFrame::writeValidated(const JDocument& document, std::ostream& out,
   return valid;
 }
 
+bool JsonFileFrame::writeValidatedWithPointers(const JDocument& document, std::ostream& out,
+                                               const std::string& schemaPath)
+{
+  return validateAndPrint(document, out, schemaPath, [](const PrintingValidator& validator) {
+    const char* keyword = validator.GetInvalidSchemaKeyword();
+    IPCONFIG_SEND_MSG(ComMsgMgr::Error, "@75-645@%s%s%s",
+                      stringify(validator.GetInvalidSchemaPointer()), keyword ? keyword : "",
+                      stringify(validator.GetInvalidDocumentPointer()));
+  });
+}
+
 bool JsonFileFrame::writeThroughSchema(const JDocument& document, std::ostream& out,
                                        const std::string& schemaPath)
 {
-  const std::unique_ptr<JSchemaDocument> schema =
-      loadSchema(schemaPath, isl::iostreams::basic_file());
-  rapidjson::OStreamWrapper wrapper(out);
-  PrettyWriter writer(wrapper);
-  setIndent(writer);
-  ForwardingHandler<PrettyWriter> toWriter(writer);
-  rapidjson::GenericSchemaValidator<JSchemaDocument, ForwardingHandler<PrettyWriter>> validator(
-      *schema, toWriter);
-  return document.Accept(validator);
+  return validateAndPrint(document, out, schemaPath, [](const PrintingValidator&) {});
 }
 
 bool JsonFileFrame::writePretty(const JDocument& document, std::ostream& out)

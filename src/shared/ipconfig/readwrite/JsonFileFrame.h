@@ -59,6 +59,12 @@ public:
   static bool writeValidated(const JDocument& document, std::ostream& out,
                              const std::string& schemaPath, const char* fileKind);
 
+  // Writing, stream form, as writeValidated, but a failure sends
+  // "@75-645@%s%s%s" with where it failed: the schema pointer, the schema
+  // keyword (empty if none) and the document pointer.
+  static bool writeValidatedWithPointers(const JDocument& document, std::ostream& out,
+                                         const std::string& schemaPath);
+
   // Writing, stream form, without a message: gives whether the document
   // passed its schema; the text stops at the first value that failed.
   static bool writeThroughSchema(const JDocument& document, std::ostream& out,
