@@ -57,6 +57,18 @@ settle constraints area_groups.json
 "$tool" constraints areagroups "$examples/area_groups.json" "$out/groups.json"
 cmp "$out/area_groups.json" "$out/groups.json"
 
+# The compiler hand-off: a solution against the logical architecture and the
+# traffic example on the shipped device; the files written from it must give
+# the bytes of their examples.
+handoff=(qpe_demo "$examples/logical_arch.json" "$examples/traffic.json")
+solution=$examples/compiler_solution.json
+"$tool" compilersolution check "${handoff[@]}" "$solution"
+"$tool" compilersolution roundtrip "${handoff[@]}" "$solution" "$out/compiler_solution.json"
+cmp "$solution" "$out/compiler_solution.json"
+"$tool" shimconstraints write "${handoff[@]}" "$solution" top/array "$out/shim_constraints.json"
+cmp "$examples/shim_constraints.json" "$out/shim_constraints.json"
+"$tool" shimconstraints interfaceid "${handoff[@]}" "$solution" top/array
+
 # A picture: its DOT text must be the checked-in one; with Graphviz at hand
 # it is rendered as SVG too.
 picture() {

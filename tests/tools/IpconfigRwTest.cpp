@@ -50,7 +50,11 @@ TEST_P(IpconfigRwTest, ExitCodeAndOutput)
 const std::string constraintsCounts =
     ": 13 constraints (8 node, 3 port, 2 net, 0 global), 2 FIFO records (1 DMA, 1 stream)\n";
 const std::string trafficCounts =
-    ": 7 instances (3 master, 3 slave, 1 other), 4 paths, 1 phase groups, 1 DFX paths\n";
+    ": 11 instances (4 master, 3 slave, 4 other), 4 paths, 1 phase groups, 1 DFX paths\n";
+// The compiler hand-off inputs: device, logical architecture, traffic.
+const std::string handOff = " qpe_demo $E/logical_arch.json $E/traffic.json";
+const std::string solutionCounts =
+    ": 4 logical instances on 4 channels, 3 of 4 shim ports placed\n";
 const std::string logicalArchCounts =
     ": 4 instances (1 QPE, 2 NoC, 1 PL), 9 ports, 5 connections\n";
 
@@ -155,6 +159,39 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"trafficDot", nullptr,
                 "traffic dot $E/traffic.json > $D/out.dot && cmp $E/traffic.dot $D/out.dot", 0,
                 ""},
+        RunCase{"compilerSolutionCheck", nullptr,
+                "compilersolution check" + handOff + " $E/compiler_solution.json", 0,
+                "compilersolution $E/compiler_solution.json" + solutionCounts},
+        RunCase{"compilerSolutionRoundtrip", nullptr,
+                "compilersolution roundtrip" + handOff + " $E/compiler_solution.json $D/out.json",
+                0, "compilersolution $E/compiler_solution.json -> $D/out.json" + solutionCounts},
+        RunCase{"compilerSolutionNothingPlaced",
+                R"({"Placement": [{"LogicalInstance": {"InstanceName": "top/array",
+                    "PortName": "done"}, "PhysicalInstance": [{"name": "QPE_SHIM_X0Y0_S_AXIS0"}]}]})",
+                "compilersolution roundtrip" + handOff + " $D/in.json $D/out.json", 1,
+                "compilersolution: no port of $D/in.json is placed; nothing written\n"},
+        RunCase{"compilerSolutionBadValue",
+                R"({"Placement": [{"PhysicalInstance": [{"name": 7}]}]})",
+                "compilersolution check" + handOff + " $D/in.json", 1,
+                "ERROR: [ipconfig @90-2@] $D/in.json /Placement/0/PhysicalInstance/0/name\n"},
+        RunCase{"compilerSolutionUnknownDevice", nullptr,
+                "compilersolution check no_such_device $E/logical_arch.json $E/traffic.json "
+                "$E/compiler_solution.json",
+                1, "@90-1@", true},
+        RunCase{"shimConstraintsWrite", nullptr,
+                "shimconstraints write" + handOff + " $E/compiler_solution.json top/array "
+                "$D/out.json",
+                0, "shimconstraints top/array -> $D/out.json\n"},
+        RunCase{"shimConstraintsUnknownInstance", nullptr,
+                "shimconstraints write" + handOff + " $E/compiler_solution.json top/noc "
+                "$D/out.json",
+                1, "shimconstraints: $E/logical_arch.json has no array instance top/noc\n"},
+        RunCase{"shimConstraintsInterfaceId", nullptr,
+                "shimconstraints interfaceid" + handOff + " $E/compiler_solution.json top/array",
+                0,
+                "bufferQPE_ML_SHIM_X4Y0_M_AXIS0reg0"
+                "samples_inQPE_SHIM_X1Y0_S_AXIS0QPE_SHIM_X1Y0_S_AXIS1cf312.500dw64reg1"
+                "spectrum_outQPE_SHIM_X2Y0_M_AXIS0cf312.500dw128reg0\n"},
         RunCase{"constraintsCheck", nullptr, "constraints check $E/constraints.json", 0,
                 "constraints $E/constraints.json" + constraintsCounts},
         RunCase{"constraintsRoundtrip", nullptr,

@@ -55,5 +55,7 @@ Format solutionFormat();
 Format constraintsFormat();
 Format nocConstraintsFormat();
 Format partitionFormat();
+Format compilerSolutionFormat();
+Format shimConstraintsFormat();
 
 }  // namespace ipconfig_rw

@@ -12,6 +12,8 @@ const std::vector<Format>& allFormats()
       nocConstraintsFormat(),
       logicalArchFormat(),
       partitionFormat(),
+      compilerSolutionFormat(),
+      shimConstraintsFormat(),
   };
   return formats;
 }
