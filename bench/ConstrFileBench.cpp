@@ -1,3 +1,4 @@
+#include "BesideFloor.h"
 #include "ComMsgLog.h"
 #include "ComMsgMgr.h"
 #include "ConstrHandler.h"
@@ -12,7 +13,6 @@
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/schema.h>
 
-#include <chrono>
 #include <fstream>
 #include <map>
 #include <string>
@@ -29,7 +29,6 @@ namespace {
 
 using qpe::constraints::ConstrHandler;
 using qpe::constraints::SchemaFile;
-using Clock = std::chrono::steady_clock;
 using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
 namespace fs = boost::filesystem;
 
@@ -84,14 +83,6 @@ public:
   const std::string text;
 };
 
-template <typename Action>
-double seconds(const Action& action)
-{
-  const Clock::time_point start = Clock::now();
-  action();
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
 void validateAndPrint(const JDocument& document, const std::string& path,
                       const std::string& schemaPath)
 {
@@ -107,17 +98,10 @@ void validateAndPrint(const JDocument& document, const std::string& path,
   benchmark::DoNotOptimize(document.Accept(validator));
 }
 
-// Sets the counters from the summed times of both, and remembers the
-// library's mean time per size for x_10k.
 void report(benchmark::State& state, std::map<int64_t, double>& means, double library,
             double floor)
 {
-  const int64_t count = state.range(0);
-  means[count] = library / static_cast<double>(state.iterations());
-  state.counters["x_floor"] = library / floor;
-  if (count == 100000 && means.count(10000))
-    state.counters["x_10k"] = means[100000] / means[10000];
-  state.SetItemsProcessed(state.iterations() * count);
+  reportBesideFloor(state, means, library, floor, 10000, 100000, "x_10k");
 }
 
 void BM_ConstrFileRead(benchmark::State& state)
