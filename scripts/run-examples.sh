@@ -68,6 +68,8 @@ cmp "$solution" "$out/compiler_solution.json"
 "$tool" shimconstraints write "${handoff[@]}" "$solution" top/array "$out/shim_constraints.json"
 cmp "$examples/shim_constraints.json" "$out/shim_constraints.json"
 "$tool" shimconstraints interfaceid "${handoff[@]}" "$solution" top/array
+"$tool" plinterface write "${handoff[@]}" "$solution" "$out/pl_interface.json"
+cmp "$examples/pl_interface.json" "$out/pl_interface.json"
 
 # A picture: its DOT text must be the checked-in one; with Graphviz at hand
 # it is rendered as SVG too.

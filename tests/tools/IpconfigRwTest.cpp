@@ -192,6 +192,23 @@ INSTANTIATE_TEST_SUITE_P(
                 "bufferQPE_ML_SHIM_X4Y0_M_AXIS0reg0"
                 "samples_inQPE_SHIM_X1Y0_S_AXIS0QPE_SHIM_X1Y0_S_AXIS1cf312.500dw64reg1"
                 "spectrum_outQPE_SHIM_X2Y0_M_AXIS0cf312.500dw128reg0\n"},
+        RunCase{"plInterfaceWrite", nullptr,
+                "plinterface write" + handOff + " $E/compiler_solution.json $D/out.json", 0,
+                "plinterface $E/compiler_solution.json -> $D/out.json: 3 of 4 shim ports "
+                "placed\n"},
+        RunCase{"plInterfaceWritePartition", nullptr,
+                "plinterface writepartition" + handOff +
+                    " $E/compiler_solution.json 2 -1 $D/out.json",
+                0,
+                "plinterface $E/compiler_solution.json -> $D/out.json: 3 of 4 shim ports "
+                "placed\n"},
+        RunCase{"plInterfaceBadColumn", nullptr,
+                "plinterface writepartition" + handOff +
+                    " $E/compiler_solution.json 2x 4 $D/out.json",
+                2, "plinterface: START and NUM must be column numbers, or -1\n"},
+        RunCase{"plInterfaceUnwritable", nullptr,
+                "plinterface write" + handOff + " $E/compiler_solution.json $D/no/out.json", 1,
+                "plinterface: cannot write $D/no/out.json\n"},
         RunCase{"constraintsCheck", nullptr, "constraints check $E/constraints.json", 0,
                 "constraints $E/constraints.json" + constraintsCounts},
         RunCase{"constraintsRoundtrip", nullptr,

@@ -57,5 +57,6 @@ Format nocConstraintsFormat();
 Format partitionFormat();
 Format compilerSolutionFormat();
 Format shimConstraintsFormat();
+Format plInterfaceFormat();
 
 }  // namespace ipconfig_rw

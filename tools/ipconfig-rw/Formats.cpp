@@ -14,6 +14,7 @@ const std::vector<Format>& allFormats()
       partitionFormat(),
       compilerSolutionFormat(),
       shimConstraintsFormat(),
+      plInterfaceFormat(),
   };
   return formats;
 }
