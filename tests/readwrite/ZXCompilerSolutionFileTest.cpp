@@ -255,6 +255,22 @@ TEST_F(ZXCompilerSolutionFileTest, WhatCannotBeTiedToTheModelsIsDroppedWithoutAW
   expectSent({});
 }
 
+TEST_F(ZXCompilerSolutionFileTest, ALooserSchemaLetsValuesOfOtherTypesPassWithoutHarm)
+{
+  const TempDir root;
+  writeFile(root.file("data/parts/tarnel/common/merrow/ZXSolutionSchema.json"), "{}");
+  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
+  QPEShimInterfaceSolution back(demo());
+  read("[]", back);
+  read(R"({"Placement": [1, {"LogicalInstance": 2, "PhysicalInstance": 3},
+    {"LogicalInstance": {"InstanceName": "top/array", "PortName": "out"}, "PhysicalInstance": 5},
+    {"LogicalInstance": {"InstanceName": 1, "PortName": "out"},
+     "PhysicalInstance": [7, {"name": "QPE_SHIM_X0Y0_S_AXIS0"}]}]})",
+       back);
+  EXPECT_EQ(placements(back),
+            (std::map<std::string, std::string>{{"top/array/out", "QPE_SHIM_X0Y0/S_AXIS0"}}));
+}
+
 TEST_F(ZXCompilerSolutionFileTest, ReadingAddsToThePlacementsThereAre)
 {
   place("top/array/out", "QPE_SHIM_X0Y0/M_AXIS3");

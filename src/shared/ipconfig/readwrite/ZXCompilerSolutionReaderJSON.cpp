@@ -19,9 +19,12 @@ namespace {
 using Json = HCRapidJsonReadWriteUtils;
 using Reader = ZXCompilerSolutionReaderJSON;
 
-// The value under `key` if `object` has it.
+// The value under `key` if `object` is an object that has it. The schema
+// asks for objects, but it is a file of the installation and may be looser.
 const JValue* member(const JValue& object, const char* key)
 {
+  if (!object.IsObject())
+    return nullptr;
   const auto found = object.FindMember(key);
   return found == object.MemberEnd() ? nullptr : &found->value;
 }
@@ -85,7 +88,7 @@ void readPlacement(const JValue& placement, ZXIPInstanceLookup& instances, const
   if (!port || port->logicalInstNames.empty())
     return;
   const JValue* channels = member(placement, "PhysicalInstance");
-  if (!channels)
+  if (!channels || !channels->IsArray())
     return;
   placeChannels(*channels, port->logicalInstNames, part, spec, solution);
 }
