@@ -197,15 +197,25 @@ INSTANTIATE_TEST_SUITE_P(
                 "plinterface $E/compiler_solution.json -> $D/out.json: 3 of 4 shim ports "
                 "placed\n"},
         RunCase{"plInterfaceWritePartition", nullptr,
-                "plinterface writepartition" + handOff +
-                    " $E/compiler_solution.json 2 -1 $D/out.json",
+                "plinterface write" + handOff +
+                    " $E/compiler_solution.json $D/out.json --partition-start 2 "
+                    "--array-size=9 && head -4 $D/out.json",
                 0,
                 "plinterface $E/compiler_solution.json -> $D/out.json: 3 of 4 shim ports "
-                "placed\n"},
+                "placed\n{\n  \"partition\": {\n    \"startColumn\": 2,\n"
+                "    \"numColumns\": -1,\n"},
+        RunCase{"plInterfaceWholeArray", nullptr,
+                "plinterface write" + handOff +
+                    " $E/compiler_solution.json $D/out.json --array-start 0x3 "
+                    "--array-size=9 && head -4 $D/out.json",
+                0,
+                "plinterface $E/compiler_solution.json -> $D/out.json: 3 of 4 shim ports "
+                "placed\n{\n  \"partition\": {\n    \"startColumn\": 3,\n"
+                "    \"numColumns\": 9,\n"},
         RunCase{"plInterfaceBadColumn", nullptr,
-                "plinterface writepartition" + handOff +
-                    " $E/compiler_solution.json 2x 4 $D/out.json",
-                2, "plinterface: START and NUM must be column numbers, or -1\n"},
+                "plinterface write" + handOff +
+                    " $E/compiler_solution.json $D/out.json --partition-start 2x",
+                2, "option '--partition-start': '2x' is not a number", true},
         RunCase{"plInterfaceUnwritable", nullptr,
                 "plinterface write" + handOff + " $E/compiler_solution.json $D/no/out.json", 1,
                 "plinterface: cannot write $D/no/out.json\n"},

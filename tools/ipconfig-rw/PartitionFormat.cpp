@@ -1,4 +1,5 @@
 #include "Format.h"
+#include "OptionValues.h"
 
 #include "QPEPartitionWriter.h"
 #include "ZXLogicalArchModel.h"
@@ -17,31 +18,6 @@ namespace ipconfig_rw {
 namespace {
 
 namespace fw = IPConfig::Frameworks;
-
-// The whole of `text` as a decimal number, or a hexadecimal one after "0x",
-// within [low, high].
-long long parseNumber(const std::string& option, const std::string& text, long long low,
-                      long long high)
-{
-  const bool hex = boost::algorithm::istarts_with(text, "0x");
-  const std::string digits = hex ? text.substr(2) : text;
-  std::size_t used = 0;
-  long long value = 0;
-  try {
-    value = std::stoll(digits, &used, hex ? 16 : 10);
-  } catch (const std::exception&) {
-    used = 0;
-  }
-  if (digits.empty() || used != digits.size() || value < low || value > high)
-    throw UsageError("option '--" + option + "': '" + text + "' is not a number from " +
-                     std::to_string(low) + " to " + std::to_string(high));
-  return value;
-}
-
-int parseInt(const std::string& option, const std::string& text)
-{
-  return static_cast<int>(parseNumber(option, text, INT_MIN, INT_MAX));
-}
 
 // A uuid as hexadecimal digits, in words of eight: "0x" in front and "-"
 // between groups are allowed, so the usual 8-4-4-4-12 form gives four words.

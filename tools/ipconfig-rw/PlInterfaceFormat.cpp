@@ -1,4 +1,5 @@
 #include "Format.h"
+#include "OptionValues.h"
 
 #include "HandOffDesign.h"
 #include "QPEPLIntfWriter.h"
@@ -9,51 +10,32 @@ namespace ipconfig_rw {
 
 namespace {
 
-// A column number or count as the writer takes it; -1 stands for unset.
-bool parseColumn(const std::string& text, int& value)
+// The option's number, or `fallback` when it was left empty.
+int intOr(const std::string& option, const std::string& text, int fallback)
 {
-  try {
-    std::size_t used = 0;
-    value = std::stoi(text, &used);
-    return used == text.size() && value >= -1;
-  } catch (const std::exception&) {
-    return false;
-  }
+  return text.empty() ? fallback : parseInt(option, text);
 }
 
-int writeColumns(const std::vector<std::string>& args, int partitionStart, int partitionSize,
-                 const std::string& path, std::ostream& out)
-{
-  HandOffDesign design(args[0], args[1], args[2]);
-  design.readSolution(args[3]);
-  const std::vector<int> columns = design.part->getQpeOracle().getZXShimColumns();
-  const int arrayStart = columns.empty() ? 0 : columns.front();
-  const int arraySize = static_cast<int>(columns.size());
-  if (!IPConfig::Frameworks::QPEPLIntfWriter().writeToJsonFile(
-          path, design.spec, *design.solution, design.model, *design.part, partitionStart,
-          partitionSize, arrayStart, arraySize)) {
-    out << "plinterface: cannot write " << path << '\n';
-    return exitBadInput;
-  }
-  out << "plinterface " << args[3] << " -> " << path << ": " << design.countPlacedPorts()
-      << " of " << design.countPorts() << " shim ports placed\n";
-  return exitOk;
-}
-
+// Arguments: DEVICE LOGICAL_ARCH TRAFFIC SOLUTION OUT, then the options in
+// declared order.
 int write(const std::vector<std::string>& args, std::ostream& out)
 {
-  return writeColumns(args, -1, -1, args[4], out);
-}
-
-int writePartition(const std::vector<std::string>& args, std::ostream& out)
-{
-  int start = 0;
-  int count = 0;
-  if (!parseColumn(args[4], start) || !parseColumn(args[5], count)) {
-    out << "plinterface: START and NUM must be column numbers, or -1\n";
-    return exitUsage;
+  const int partitionStart = parseInt("partition-start", args[5]);
+  const int partitionSize = parseInt("partition-size", args[6]);
+  HandOffDesign design(args[0], args[1], args[2]);
+  const std::vector<int> columns = design.part->getQpeOracle().getZXShimColumns();
+  const int arrayStart = intOr("array-start", args[7], columns.empty() ? 0 : columns.front());
+  const int arraySize = intOr("array-size", args[8], static_cast<int>(columns.size()));
+  design.readSolution(args[3]);
+  if (!IPConfig::Frameworks::QPEPLIntfWriter().writeToJsonFile(
+          args[4], design.spec, *design.solution, design.model, *design.part, partitionStart,
+          partitionSize, arrayStart, arraySize)) {
+    out << "plinterface: cannot write " << args[4] << '\n';
+    return exitBadInput;
   }
-  return writeColumns(args, start, count, args[6], out);
+  out << "plinterface " << args[3] << " -> " << args[4] << ": " << design.countPlacedPorts()
+      << " of " << design.countPorts() << " shim ports placed\n";
+  return exitOk;
 }
 
 }  // namespace
@@ -64,12 +46,23 @@ Format plInterfaceFormat()
           "PL interface file (write; no schema): the columns of a partition and the channels "
           "and settings of every array port; inputs as for compilersolution",
           {
-              {"write", {"DEVICE", "LOGICAL_ARCH", "TRAFFIC", "SOLUTION", "OUT"},
-               "write the interface of the whole array to OUT", write},
-              {"writepartition",
-               {"DEVICE", "LOGICAL_ARCH", "TRAFFIC", "SOLUTION", "START", "NUM", "OUT"},
-               "the same for the partition of NUM columns from START (-1 -1: the whole array)",
-               writePartition},
+              {"write",
+               {"DEVICE", "LOGICAL_ARCH", "TRAFFIC", "SOLUTION", "OUT"},
+               "write the interface of the solution's array ports to OUT",
+               write,
+               {
+                   {"partition-start", "N",
+                    "first column of the partition; with --partition-size -1 too, the array's",
+                    "-1"},
+                   {"partition-size", "N",
+                    "number of columns of the partition; with --partition-start -1 too, the "
+                    "array's",
+                    "-1"},
+                   {"array-start", "N", "first column of the array; the device's by default",
+                    ""},
+                   {"array-size", "N",
+                    "number of columns of the array; the device's shim columns by default", ""},
+               }},
           }};
 }
 
