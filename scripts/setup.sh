@@ -16,7 +16,7 @@ esac
 cd "$(dirname "$0")/.."
 
 packages=(cmake g++ ninja-build pkg-config rapidjson-dev libboost-dev libboost-filesystem-dev
-          libboost-iostreams-dev libgtest-dev libgmock-dev libbenchmark-dev graphviz
+          libboost-iostreams-dev libgtest-dev libgmock-dev libbenchmark-dev graphviz librsvg2-bin
           clang libclang-rt-dev)
 missing=()
 for package in "${packages[@]}"; do

@@ -1,9 +1,14 @@
 #include "Format.h"
 
+#include "ArrayPlacements.h"
 #include "ConstrHandler.h"
 #include "ConstrReader.h"
 #include "ConstrWriter.h"
+#include "ConstraintsSvgWriter.h"
+#include "HDARPartReader.h"
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <ostream>
 
@@ -104,6 +109,31 @@ int dump(const std::vector<std::string>& args, std::ostream&)
   return exitOk;
 }
 
+// The placements of FILE as an SVG picture of the array, titled with the
+// file's name; --device widens the grid to that array device.
+int draw(const std::vector<std::string>& args, std::ostream& out)
+{
+  ParentHandler parent;
+  parent.read(args[0]);
+  std::unique_ptr<HDARPart> device;
+  if (!args[2].empty())
+    device = HDARPartReader::readByName(args[2]);
+  const qpe::constraints::ArrayPlacements placements(parent.filled(), device.get());
+  std::ofstream picture(args[1], std::ios::binary);
+  qpe::constraints::ConstraintsSvgWriter(
+      placements, "Constraints of " + std::filesystem::path(args[0]).filename().string())
+      .write(picture);
+  picture.close();
+  if (!picture) {
+    out << "constraints: cannot write " << args[1] << '\n';
+    return exitBadInput;
+  }
+  out << "constraints " << args[0] << " -> " << args[1] << ": " << placements.getColumns()
+      << " columns, " << placements.getRows() << " rows, " << placements.getGroups().size()
+      << " area groups, " << placements.getOffGrid().size() << " off the grid\n";
+  return exitOk;
+}
+
 }  // namespace
 
 Format constraintsFormat()
@@ -118,6 +148,11 @@ Format constraintsFormat()
               {"dump", {"FILE"}, "read FILE and print each constraint on a line", dump},
               {"areagroups", {"IN", "OUT"}, "read the groups of IN and write them alone to OUT",
                areagroups},
+              {"draw",
+               {"FILE", "OUT"},
+               "draw the placements and area groups of FILE on the array as an SVG picture",
+               draw,
+               {{"device", "NAME", "shipped array device whose columns and channels to show", ""}}},
           }};
 }
 

@@ -1,0 +1,206 @@
+#include "ArrayPlacements.h"
+
+#include "Address.h"
+#include "AreaGroupConstr.h"
+#include "BufferConstr.h"
+#include "ConstrCast.h"
+#include "ConstrHandler.h"
+#include "HDARPart.h"
+#include "MemConstr.h"
+#include "PhysicalRange.h"
+#include "PhysicalSpec.h"
+#include "PhysicalSpecFormatter.h"
+#include "ReservedMemoryConstr.h"
+#include "ShimConstr.h"
+#include "TileConstr.h"
+
+#include <algorithm>
+
+namespace qpe::constraints {
+
+namespace {
+
+bool onGrid(int index)
+{
+  return index >= 0 && index <= ArrayPlacements::maxGridIndex;
+}
+
+// -1, a free axis, or a place on the grid.
+bool freeOrOnGrid(int index)
+{
+  return index == -1 || onGrid(index);
+}
+
+ArrayPlacements::LineKind tileKind(PhysicalSpec::PhysicalType type)
+{
+  switch (type) {
+  case PhysicalSpec::Core:
+    return ArrayPlacements::CoreTile;
+  case PhysicalSpec::Mem:
+    return ArrayPlacements::MemTile;
+  case PhysicalSpec::Shim:
+    return ArrayPlacements::ShimTile;
+  default:
+    return ArrayPlacements::OtherTile;
+  }
+}
+
+std::string pair(int first, int second)
+{
+  return "(" + std::to_string(first) + "," + std::to_string(second) + ")";
+}
+
+// The range as a group array of a file holds it: "first" or "first:second".
+std::string rangeText(const PhysicalRange& range)
+{
+  std::string text = PhysicalSpecFormatter(range.getFirst()).toString();
+  if (range.getSecond().isValid())
+    text += ":" + PhysicalSpecFormatter(range.getSecond()).toString();
+  return text;
+}
+
+}  // namespace
+
+ArrayPlacements::ArrayPlacements(const ConstrHandler& handler, const HDARPart* device)
+{
+  for (const BaseConstraint* constr : handler.getConstrs()) {
+    if (const TileConstr* tile = ConstrCast::toTile(constr))
+      addTile_(*tile);
+    else if (const ShimConstr* shim = ConstrCast::toShim(constr))
+      addShim_(*shim);
+    else if (const MemConstr* mem = ConstrCast::toMem(constr)) {
+      addAddress_(mem->getObjName(), "mem ping", mem->ping);
+      addAddress_(mem->getObjName(), "mem pong", mem->pong);
+    } else if (const BufferConstr* buffer = ConstrCast::toBuffer(constr)) {
+      addAddress_(buffer->getObjName(), "buffer ping", buffer->ping);
+      addAddress_(buffer->getObjName(), "buffer pong", buffer->pong);
+      addAddress_(buffer->getObjName(), "buffer rtpSelector", buffer->rtpSelector);
+    } else if (const ReservedMemoryConstr* reserved = ConstrCast::toReservedMemory(constr))
+      addAddress_(reserved->getObjName(), "reserved memory", reserved->address);
+    else if (const AreaGroupConstr* group = ConstrCast::toAreaGroup(constr))
+      addGroup_(*group);
+  }
+  if (device)
+    addDevice_(*device);
+}
+
+bool ArrayPlacements::isChannelTaken(int column, int channel) const
+{
+  return takenChannels.count({column, channel}) != 0;
+}
+
+void ArrayPlacements::addTile_(const TileConstr& tile)
+{
+  const std::string& node = tile.getObjName();
+  if (tile.isNameBased()) {
+    offGrid.push_back(node + ": tile " + tile.getName());
+  } else if (onGrid(tile.getColumn()) && onGrid(tile.getRow())) {
+    tiles[{tile.getColumn(), tile.getRow()}].push_back({tileKind(tile.getTileType()), node});
+    reach_(tile.getColumn(), tile.getRow(), -1);
+  } else if (tile.isSet() || tile.isRowSet()) {
+    offGrid.push_back(node + ": tile " + pair(tile.getColumn(), tile.getRow()));
+  }
+}
+
+void ArrayPlacements::addShim_(const ShimConstr& shim)
+{
+  const std::string& node = shim.getObjName();
+  if (shim.isNameBased()) {
+    offGrid.push_back(node + ": shim " + shim.getName());
+  } else if (onGrid(shim.getColumn()) && freeOrOnGrid(shim.getChannel())) {
+    Lines& lines = shimColumns[shim.getColumn()];
+    if (shim.isChannelSet()) {
+      lines.push_back({Channel, "ch " + std::to_string(shim.getChannel()) + ": " + node});
+      takenChannels.insert({shim.getColumn(), shim.getChannel()});
+    } else {
+      lines.push_back({Channel, "any ch: " + node});
+    }
+    reach_(shim.getColumn(), -1, shim.getChannel());
+  } else if (shim.isColumnSet() || shim.isChannelSet()) {
+    offGrid.push_back(node + ": shim " + pair(shim.getColumn(), shim.getChannel()));
+  }
+}
+
+void ArrayPlacements::addAddress_(const std::string& owner, const char* role,
+                                  const Address& address)
+{
+  const int column = address.column.getIntVal();
+  const int row = address.row.getIntVal();
+  if (!onGrid(column) || !onGrid(row)) {
+    if (address.column.isSet() || address.row.isSet() || address.bankId.isSet() ||
+        address.offset.isSet())
+      offGrid.push_back(owner + ": " + role + " " + address.str());
+    return;
+  }
+  std::string text = owner + ": " + role;
+  if (address.bankId.isSet())
+    text += " bank " + std::to_string(address.bankId.getIntVal());
+  if (address.offset.isSet())
+    text += " @" + std::to_string(address.offset.getIntVal());
+  tiles[{column, row}].push_back({Memory, text});
+  reach_(column, row, -1);
+}
+
+void ArrayPlacements::addGroup_(const AreaGroupConstr& group)
+{
+  groups.push_back({group.getObjName(), group.getFlags(), group.getNodeGroup(), {}});
+  for (const PhysicalRange& range : group.getPhysicalGroup())
+    addGroupRange_(groups.back(), range);
+}
+
+// A range is drawn on the band of its first end; a second end of the other
+// band, or one by name, leaves the first end alone.
+void ArrayPlacements::addGroupRange_(Group& group, const PhysicalRange& range)
+{
+  const PhysicalSpec& first = range.getFirst();
+  const bool onInterfaceRow = first.isShim();
+  const auto placeable = [onInterfaceRow](const PhysicalSpec& end) {
+    const int other = onInterfaceRow ? end.getIndex() : end.getRow();
+    return end.isXYBased() && end.isShim() == onInterfaceRow && onGrid(end.getColumn()) &&
+           freeOrOnGrid(other);
+  };
+  if (!placeable(first)) {
+    if (first.isValid())
+      offGrid.push_back("area group " + group.name + ": " +
+                        PhysicalSpec::toString(first.getPhysicalType()) + " " + rangeText(range));
+    return;
+  }
+  const PhysicalSpec& second = placeable(range.getSecond()) ? range.getSecond() : first;
+  const auto axis = [onInterfaceRow](const PhysicalSpec& end) {
+    return onInterfaceRow ? end.getIndex() : end.getRow();
+  };
+  GroupBox box{onInterfaceRow,
+               first.isMem(),
+               std::min(first.getColumn(), second.getColumn()),
+               std::max(first.getColumn(), second.getColumn()),
+               std::min(axis(first), axis(second)),
+               std::max(axis(first), axis(second))};
+  // An axis that one end leaves free is free for the whole range.
+  if (axis(first) == -1 || axis(second) == -1)
+    box.first = box.last = -1;
+  group.boxes.push_back(box);
+  reach_(box.lastColumn, onInterfaceRow ? -1 : box.last, onInterfaceRow ? box.last : -1);
+}
+
+void ArrayPlacements::addDevice_(const HDARPart& device)
+{
+  deviceName = device.getName();
+  const HDDMQpeOracle& oracle = device.getQpeOracle();
+  for (int column : oracle.getZXShimColumns()) {
+    if (!onGrid(column))
+      continue;
+    int channel = 0;
+    while (channel <= maxGridIndex && oracle.getZXShimBel(column, channel).isValid())
+      ++channel;
+    reach_(column, -1, channel - 1);
+  }
+}
+
+void ArrayPlacements::reach_(int column, int row, int channel)
+{
+  columns = std::max(columns, column + 1);
+  rows = std::max(rows, row + 1);
+  channels = std::max(channels, channel + 1);
+}
+
+}  // namespace qpe::constraints

@@ -1,0 +1,290 @@
+#include "TestSupport.h"
+
+#include "ArrayPlacements.h"
+#include "BaseNameResolver.h"
+#include "ConstrHandler.h"
+#include "ConstraintsSvgWriter.h"
+#include "HDARPartReader.h"
+#include "SvgText.h"
+
+#include <memory>
+#include <sstream>
+
+namespace {
+
+using qpe::constraints::ArrayPlacements;
+using qpe::constraints::ConstrHandler;
+using qpe::constraints::ConstraintsSvgWriter;
+
+// A store filled from the text of a constraints file.
+std::unique_ptr<ConstrHandler> readText(const std::string& text)
+{
+  auto handler = std::make_unique<ConstrHandler>();
+  std::istringstream in(text);
+  handler->read(in, "", qpe::constraints::BaseNameResolver());
+  return handler;
+}
+
+std::string drawn(const ConstrHandler& handler, const std::string& title)
+{
+  std::ostringstream out;
+  ConstraintsSvgWriter(ArrayPlacements(handler), title).write(out);
+  return out.str();
+}
+
+TEST(SvgTextTest, EscapesMarkupAndDropsControlCharacters)
+{
+  EXPECT_EQ(IPConfig::SvgText::escaped(""), "");
+  EXPECT_EQ(IPConfig::SvgText::escaped("top/a b"), "top/a b");
+  EXPECT_EQ(IPConfig::SvgText::escaped(R"j(a&b<c>d"e'f)j"), "a&amp;b&lt;c&gt;d&quot;e&apos;f");
+  EXPECT_EQ(IPConfig::SvgText::escaped("x\x01y\tz\x7f"), "xyz");
+  EXPECT_EQ(IPConfig::SvgText::escaped("caf\xc3\xa9"), "caf\xc3\xa9");
+}
+
+// Two columns and two rows: a pinned core tile, a memory placement beside it,
+// a taken shim channel, a soft group over row 0 and a tile placed by name.
+const char* const smallStore = R"j({
+  "NodeConstraints": {
+    "a<b": {"tile": {"column": 1, "row": 1, "tile_type": "core"},
+            "mem": [{"column": 0, "row": 1, "bankId": 2, "offset": 64}]},
+    "io": {"shim": {"column": 0, "channel": 1}},
+    "n": {"tile": {"name": "t&1"}}
+  },
+  "GlobalConstraints": {
+    "areaGroup": {"name": "g'1", "issoft": true, "nodeGroup": ["a<b"],
+                  "tileGroup": ["(0,0):(1,0)"]}
+  }
+})j";
+
+// Worked out from the layout: rows of 8 + 14 * (1 + 1) = 36 pixels from y 64,
+// the shim row at 64 + 2 * 36 + 8 = 144 and 8 + 12 + 14 * 2 = 48 high, slots
+// (220 - 8) / 2 = 106 wide, the legend at 144 + 48 + 32 = 224, the groups at
+// 224 + 8 * 18 + 8 = 376, the list of the rest at 376 + 14 + 18 + 8 = 416,
+// and a height of 416 + 16 + 2 * 14 = 460.
+const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
+<svg xmlns="http://www.w3.org/2000/svg" width="560" height="460" viewBox="0 0 560 460" font-family="sans-serif" font-size="11">
+<title>demo &amp; &apos;test&apos;</title>
+<style>
+.cell{fill:#ffffff;stroke:#b0b0b0}
+.core{fill:#cfe2ff}
+.mem{fill:#d4f0c8}
+.shimtile{fill:#fde0bd}
+.other{fill:#e2e2e2}
+.shim{fill:#f3ecfa;stroke:#b0b0b0}
+.slot{fill:#ffffff;stroke:#9a7cb8}
+.taken{fill:#7d4fa8}
+.group{fill-opacity:0.15;stroke-width:2}
+.soft{stroke-dasharray:6 4}
+.pin{font-weight:bold}
+.place{font-style:italic;fill:#404040}
+.axis{fill:#606060}
+.heading{font-size:16px;font-weight:bold}
+</style>
+<rect fill="#ffffff" width="560" height="460"/>
+<text class="heading" x="16" y="30">demo &amp; &apos;test&apos;</text>
+<text class="axis" x="16" y="48">2 columns, 2 rows, 2 channels per shim column</text>
+<g id="tiles">
+<text class="axis" text-anchor="end" x="56" y="86">row 1</text>
+<rect class="cell" x="64" y="64" width="220" height="36"/>
+<rect class="cell core" x="284" y="64" width="220" height="36"/>
+<text class="axis" text-anchor="end" x="56" y="122">row 0</text>
+<rect class="cell" x="64" y="100" width="220" height="36"/>
+<rect class="cell" x="284" y="100" width="220" height="36"/>
+</g>
+<g id="interface">
+<text class="axis" text-anchor="end" x="56" y="172">shim</text>
+<rect class="shim" x="64" y="144" width="220" height="48"/>
+<rect class="slot" x="68" y="148" width="105" height="12"/>
+<rect class="slot taken" x="174" y="148" width="105" height="12"/>
+<text class="axis" text-anchor="middle" x="174" y="208">column 0</text>
+<rect class="shim" x="284" y="144" width="220" height="48"/>
+<rect class="slot" x="288" y="148" width="105" height="12"/>
+<rect class="slot" x="394" y="148" width="105" height="12"/>
+<text class="axis" text-anchor="middle" x="394" y="208">column 1</text>
+</g>
+<g id="areaGroups">
+<rect class="group soft" fill="#d62728" stroke="#d62728" x="67" y="103" width="434" height="30"/>
+<text class="pin" fill="#d62728" text-anchor="start" x="71" y="128">g&apos;1</text>
+</g>
+<g id="tileTexts">
+<text class="place" x="70" y="78">a&lt;b: mem ping bank 2 @64</text>
+<text class="pin" x="290" y="78">a&lt;b</text>
+</g>
+<g id="shimTexts">
+<text class="pin" x="70" y="176">ch 1: io</text>
+</g>
+<g id="legend">
+<rect class="cell core" x="16" y="224" width="24" height="12"/>
+<text class="axis" x="48" y="234">core tile, with the nodes pinned to it</text>
+<rect class="cell mem" x="16" y="242" width="24" height="12"/>
+<text class="axis" x="48" y="252">memory tile, with the nodes pinned to it</text>
+<rect class="cell shimtile" x="16" y="260" width="24" height="12"/>
+<text class="axis" x="48" y="270">tile pinned with the shim type</text>
+<rect class="cell other" x="16" y="278" width="24" height="12"/>
+<text class="axis" x="48" y="288">tile pinned with an unknown type</text>
+<rect class="cell" x="16" y="296" width="24" height="12"/>
+<text class="axis" x="48" y="306">memory and buffer placements, in italics: owner, role, bank, @offset</text>
+<rect class="slot taken" x="16" y="314" width="24" height="12"/>
+<text class="axis" x="48" y="324">shim channel taken, its node named in the column</text>
+<rect class="group" fill="#606060" stroke="#606060" x="16" y="332" width="24" height="12"/>
+<text class="axis" x="48" y="342">area group, hard: solid outline</text>
+<rect class="group soft" fill="#606060" stroke="#606060" x="16" y="350" width="24" height="12"/>
+<text class="axis" x="48" y="360">area group, soft: dashed outline</text>
+</g>
+<g id="groupList">
+<text class="pin" x="16" y="386">Area groups:</text>
+<rect class="group soft" fill="#d62728" stroke="#d62728" x="16" y="390" width="24" height="12"/>
+<text class="axis" x="48" y="400">g&apos;1: soft; nodes a&lt;b</text>
+</g>
+<g id="offGrid">
+<text class="pin" x="16" y="426">Not on the grid:</text>
+<text class="axis" x="32" y="440">n: tile t&amp;1</text>
+</g>
+</svg>
+)j";
+
+TEST(ConstraintsSvgWriterTest, SmallStoreGivesTheWorkedOutPicture)
+{
+  const auto handler = readText(smallStore);
+  EXPECT_EQ(drawn(*handler, "demo & 'test'"), smallPicture);
+}
+
+TEST(ConstraintsSvgWriterTest, SameStoreSameBytes)
+{
+  const auto handler = readText(smallStore);
+  EXPECT_EQ(drawn(*handler, "t"), drawn(*handler, "t"));
+}
+
+TEST(ConstraintsSvgWriterTest, EmptyStoreIsOneTileAndOneChannelWithTheLegendOnly)
+{
+  const std::string picture = drawn(ConstrHandler(), "empty");
+  EXPECT_NE(picture.find("1 columns, 1 rows, 1 channels per shim column"), std::string::npos);
+  EXPECT_NE(picture.find("<g id=\"legend\">"), std::string::npos);
+  EXPECT_EQ(picture.find("<g id=\"groupList\">"), std::string::npos);
+  EXPECT_EQ(picture.find("<g id=\"offGrid\">"), std::string::npos);
+}
+
+// What the placements make of each kind of location.
+struct PlacementCase {
+  const char* name;
+  const char* file;
+  int columns;
+  int rows;
+  int channels;
+  std::vector<std::string> offGrid;
+};
+
+void PrintTo(const PlacementCase& c, std::ostream* out)
+{
+  *out << c.name;
+}
+
+class ArrayPlacementsTest : public ::testing::TestWithParam<PlacementCase> {};
+
+TEST_P(ArrayPlacementsTest, ExtentAndWhatStaysOffTheGrid)
+{
+  const PlacementCase& c = GetParam();
+  const auto handler = readText(c.file);
+  const ArrayPlacements placements(*handler);
+  EXPECT_EQ(placements.getColumns(), c.columns);
+  EXPECT_EQ(placements.getRows(), c.rows);
+  EXPECT_EQ(placements.getChannels(), c.channels);
+  EXPECT_EQ(placements.getOffGrid(), c.offGrid);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, ArrayPlacementsTest,
+    ::testing::Values(
+        PlacementCase{"coreTile", R"j({"NodeConstraints": {"n": {"tile": {"column": 3, "row": 2}}}})j",
+                      4, 3, 1, {}},
+        PlacementCase{"rowLeftOut", R"j({"NodeConstraints": {"n": {"tile": {"column": 3}}}})j", 1,
+                      1, 1, {"n: tile (3,-1)"}},
+        PlacementCase{"negativeColumn",
+                      R"j({"NodeConstraints": {"n": {"tile": {"column": -4, "row": 1}}}})j", 1, 1, 1,
+                      {"n: tile (-4,1)"}},
+        PlacementCase{"beyondTheGrid",
+                      R"j({"NodeConstraints": {"n": {"tile": {"column": 256, "row": 0}}}})j", 1, 1,
+                      1, {"n: tile (256,0)"}},
+        PlacementCase{"lastDrawnColumn",
+                      R"j({"NodeConstraints": {"n": {"tile": {"column": 255, "row": 0}}}})j", 256,
+                      1, 1, {}},
+        PlacementCase{"shimWithoutChannel",
+                      R"j({"NodeConstraints": {"n": {"shim": {"column": 5}}}})j", 6, 1, 1, {}},
+        PlacementCase{"shimByName", R"j({"NodeConstraints": {"n": {"shim": {"name": "s_1"}}}})j",
+                      1, 1, 1, {"n: shim s_1"}},
+        PlacementCase{"addressByBankOnly",
+                      R"j({"NodeConstraints": {"n": {"reserved_memory": {"bankId": 1, "offset": 8}}}})j",
+                      1, 1, 1, {"n: reserved memory (-1,-1,1,8)"}},
+        PlacementCase{"buffersOfAPort",
+                      R"j({"PortConstraints": {"p": {"buffers": [{"column": 1, "row": 4},
+                          {"bankId": 0, "offset": 0}, {"column": 2, "row": 0}]}}})j",
+                      3, 5, 1, {"p: buffer pong (-1,-1,0,0)"}},
+        PlacementCase{"groupRanges",
+                      R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
+                          "tileGroup": ["(1,1):(3,2)", 6, "t_a:t_b"],
+                          "shimGroup": ["(2,3):(4,7)"], "memGroup": ["(0,5)"]}}})j",
+                      7, 6, 8, {"area group g: core t_a:t_b"}}));
+
+TEST(ArrayPlacementsTest, GroupBoxesSpanAFreeAxisAndKeepTheirBand)
+{
+  const auto handler = readText(R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
+      "exclude": true, "nodeGroup": ["x", "y"],
+      "tileGroup": ["(3,2):(1,1)", 6], "shimGroup": ["(2,3):(4,7)", 5],
+      "memGroup": ["(0,5)"]}}})j");
+  const ArrayPlacements placements(*handler);
+  ASSERT_EQ(placements.getGroups().size(), 1u);
+  const ArrayPlacements::Group& group = placements.getGroups()[0];
+  EXPECT_EQ(group.name, "g");
+  EXPECT_TRUE(group.flags.exclude);
+  EXPECT_FALSE(group.flags.isSoft);
+  EXPECT_EQ(group.nodes, (std::vector<std::string>{"x", "y"}));
+  // The reader files the ranges tile, shim, mem.
+  ASSERT_EQ(group.boxes.size(), 5u);
+  const auto expectBox = [](const ArrayPlacements::GroupBox& box, bool onInterfaceRow,
+                            bool memory, int firstColumn, int lastColumn, int first, int last) {
+    EXPECT_EQ(box.onInterfaceRow, onInterfaceRow);
+    EXPECT_EQ(box.memory, memory);
+    EXPECT_EQ(box.firstColumn, firstColumn);
+    EXPECT_EQ(box.lastColumn, lastColumn);
+    EXPECT_EQ(box.first, first);
+    EXPECT_EQ(box.last, last);
+  };
+  expectBox(group.boxes[0], false, false, 1, 3, 1, 2);
+  expectBox(group.boxes[1], false, false, 6, 6, -1, -1);
+  expectBox(group.boxes[2], true, false, 2, 4, 3, 7);
+  expectBox(group.boxes[3], true, false, 5, 5, -1, -1);
+  expectBox(group.boxes[4], false, true, 0, 0, 5, 5);
+}
+
+TEST(ArrayPlacementsTest, CellsCollectTheirLinesInStoreOrder)
+{
+  const auto handler = readText(R"j({"NodeConstraints": {
+      "a": {"tile": {"column": 0, "row": 0, "tile_type": "mem"}},
+      "b": {"tile": {"column": 0, "row": 0}, "shim": {"column": 0, "channel": 2}},
+      "c": {"shim": {"column": 0}}}})j");
+  const ArrayPlacements placements(*handler);
+  const ArrayPlacements::Lines& tile = placements.getTiles().at({0, 0});
+  ASSERT_EQ(tile.size(), 2u);
+  EXPECT_EQ(tile[0].kind, ArrayPlacements::MemTile);
+  EXPECT_EQ(tile[0].text, "a");
+  EXPECT_EQ(tile[1].kind, ArrayPlacements::CoreTile);
+  const ArrayPlacements::Lines& shim = placements.getShimColumns().at(0);
+  ASSERT_EQ(shim.size(), 2u);
+  EXPECT_EQ(shim[0].text, "ch 2: b");
+  EXPECT_EQ(shim[1].text, "any ch: c");
+  EXPECT_TRUE(placements.isChannelTaken(0, 2));
+  EXPECT_FALSE(placements.isChannelTaken(0, 1));
+}
+
+TEST(ArrayPlacementsTest, DeviceWidensTheGridToItsColumnsAndChannels)
+{
+  const std::unique_ptr<HDARPart> device = HDARPartReader::readByName("qpe_demo");
+  const auto handler = readText(R"j({"NodeConstraints": {"n": {"tile": {"column": 1, "row": 3}}}})j");
+  const ArrayPlacements placements(*handler, device.get());
+  EXPECT_EQ(placements.getDeviceName(), "qpe_demo");
+  EXPECT_EQ(placements.getColumns(), 6);
+  EXPECT_EQ(placements.getRows(), 4);
+  EXPECT_EQ(placements.getChannels(), 8);
+}
+
+}  // namespace
