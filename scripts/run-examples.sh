@@ -54,6 +54,7 @@ run constraints placement.json
 run constraints colocation.json
 run constraints every_kind.json
 settle constraints area_groups.json
+run constraints array_placement.json
 "$tool" constraints areagroups "$examples/area_groups.json" "$out/groups.json"
 cmp "$out/area_groups.json" "$out/groups.json"
 
@@ -85,4 +86,20 @@ picture() {
 mkdir -p "$pictures"
 picture logicalarch logical_arch.json
 picture traffic traffic.json
+
+# The constraints as SVG pictures of the array; the one on the shipped device
+# must be the checked-in picture. With rsvg-convert at hand they are rendered
+# as PNG too.
+drawing() {
+  local file=$1 name=${1%.json}
+  shift
+  "$tool" constraints draw "$examples/$file" "$pictures/$name.svg" "$@"
+  if command -v rsvg-convert > /dev/null; then
+    rsvg-convert "$pictures/$name.svg" -o "$pictures/$name.png"
+  fi
+}
+drawing array_placement.json --device qpe_demo
+cmp "$examples/array_placement.svg" "$pictures/array_placement.svg"
+drawing placement.json
+drawing area_groups.json
 echo "Pictures of the examples: $pictures"

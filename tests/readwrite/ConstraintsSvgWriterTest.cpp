@@ -57,12 +57,12 @@ const char* const smallStore = R"j({
 })j";
 
 // Worked out from the layout: rows of 8 + 14 * (1 + 1) = 36 pixels from y 64,
-// the shim row at 64 + 2 * 36 + 8 = 144 and 8 + 12 + 14 * 2 = 48 high, slots
-// (220 - 8) / 2 = 106 wide, the legend at 144 + 48 + 32 = 224, the groups at
-// 224 + 8 * 18 + 8 = 376, the list of the rest at 376 + 14 + 18 + 8 = 416,
-// and a height of 416 + 16 + 2 * 14 = 460.
+// the shim row at 64 + 2 * 36 + 8 = 144 and 12 + 12 + 14 * 2 = 52 high, slots
+// (220 - 8) / 2 = 106 wide, the legend at 144 + 52 + 32 = 228, the groups at
+// 228 + 8 * 18 + 8 = 380, the list of the rest at 380 + 14 + 18 + 8 = 420,
+// and a height of 420 + 16 + 2 * 14 = 464.
 const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
-<svg xmlns="http://www.w3.org/2000/svg" width="560" height="460" viewBox="0 0 560 460" font-family="sans-serif" font-size="11">
+<svg xmlns="http://www.w3.org/2000/svg" width="560" height="464" viewBox="0 0 560 464" font-family="sans-serif" font-size="11">
 <title>demo &amp; &apos;test&apos;</title>
 <style>
 .cell{fill:#ffffff;stroke:#b0b0b0}
@@ -80,7 +80,7 @@ const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
 .axis{fill:#606060}
 .heading{font-size:16px;font-weight:bold}
 </style>
-<rect fill="#ffffff" width="560" height="460"/>
+<rect fill="#ffffff" width="560" height="464"/>
 <text class="heading" x="16" y="30">demo &amp; &apos;test&apos;</text>
 <text class="axis" x="16" y="48">2 columns, 2 rows, 2 channels per shim column</text>
 <g id="tiles">
@@ -92,15 +92,15 @@ const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
 <rect class="cell" x="284" y="100" width="220" height="36"/>
 </g>
 <g id="interface">
-<text class="axis" text-anchor="end" x="56" y="172">shim</text>
-<rect class="shim" x="64" y="144" width="220" height="48"/>
+<text class="axis" text-anchor="end" x="56" y="174">shim</text>
+<rect class="shim" x="64" y="144" width="220" height="52"/>
 <rect class="slot" x="68" y="148" width="105" height="12"/>
 <rect class="slot taken" x="174" y="148" width="105" height="12"/>
-<text class="axis" text-anchor="middle" x="174" y="208">column 0</text>
-<rect class="shim" x="284" y="144" width="220" height="48"/>
+<text class="axis" text-anchor="middle" x="174" y="212">column 0</text>
+<rect class="shim" x="284" y="144" width="220" height="52"/>
 <rect class="slot" x="288" y="148" width="105" height="12"/>
 <rect class="slot" x="394" y="148" width="105" height="12"/>
-<text class="axis" text-anchor="middle" x="394" y="208">column 1</text>
+<text class="axis" text-anchor="middle" x="394" y="212">column 1</text>
 </g>
 <g id="areaGroups">
 <rect class="group soft" fill="#d62728" stroke="#d62728" x="67" y="103" width="434" height="30"/>
@@ -114,31 +114,31 @@ const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
 <text class="pin" x="70" y="176">ch 1: io</text>
 </g>
 <g id="legend">
-<rect class="cell core" x="16" y="224" width="24" height="12"/>
-<text class="axis" x="48" y="234">core tile, with the nodes pinned to it</text>
-<rect class="cell mem" x="16" y="242" width="24" height="12"/>
-<text class="axis" x="48" y="252">memory tile, with the nodes pinned to it</text>
-<rect class="cell shimtile" x="16" y="260" width="24" height="12"/>
-<text class="axis" x="48" y="270">tile pinned with the shim type</text>
-<rect class="cell other" x="16" y="278" width="24" height="12"/>
-<text class="axis" x="48" y="288">tile pinned with an unknown type</text>
-<rect class="cell" x="16" y="296" width="24" height="12"/>
-<text class="axis" x="48" y="306">memory and buffer placements, in italics: owner, role, bank, @offset</text>
-<rect class="slot taken" x="16" y="314" width="24" height="12"/>
-<text class="axis" x="48" y="324">shim channel taken, its node named in the column</text>
-<rect class="group" fill="#606060" stroke="#606060" x="16" y="332" width="24" height="12"/>
-<text class="axis" x="48" y="342">area group, hard: solid outline</text>
-<rect class="group soft" fill="#606060" stroke="#606060" x="16" y="350" width="24" height="12"/>
-<text class="axis" x="48" y="360">area group, soft: dashed outline</text>
+<rect class="cell core" x="16" y="228" width="24" height="12"/>
+<text class="axis" x="48" y="238">core tile, with the nodes pinned to it</text>
+<rect class="cell mem" x="16" y="246" width="24" height="12"/>
+<text class="axis" x="48" y="256">memory tile, with the nodes pinned to it</text>
+<rect class="cell shimtile" x="16" y="264" width="24" height="12"/>
+<text class="axis" x="48" y="274">tile pinned with the shim type</text>
+<rect class="cell other" x="16" y="282" width="24" height="12"/>
+<text class="axis" x="48" y="292">tile pinned with an unknown type</text>
+<rect class="cell" x="16" y="300" width="24" height="12"/>
+<text class="axis" x="48" y="310">memory and buffer placements, in italics: owner, role, bank, @offset</text>
+<rect class="slot taken" x="16" y="318" width="24" height="12"/>
+<text class="axis" x="48" y="328">shim channel taken, its node named in the column</text>
+<rect class="group" fill="#606060" stroke="#606060" x="16" y="336" width="24" height="12"/>
+<text class="axis" x="48" y="346">area group, hard: solid outline</text>
+<rect class="group soft" fill="#606060" stroke="#606060" x="16" y="354" width="24" height="12"/>
+<text class="axis" x="48" y="364">area group, soft: dashed outline</text>
 </g>
 <g id="groupList">
-<text class="pin" x="16" y="386">Area groups:</text>
-<rect class="group soft" fill="#d62728" stroke="#d62728" x="16" y="390" width="24" height="12"/>
-<text class="axis" x="48" y="400">g&apos;1: soft; nodes a&lt;b</text>
+<text class="pin" x="16" y="390">Area groups:</text>
+<rect class="group soft" fill="#d62728" stroke="#d62728" x="16" y="394" width="24" height="12"/>
+<text class="axis" x="48" y="404">g&apos;1: soft; nodes a&lt;b</text>
 </g>
 <g id="offGrid">
-<text class="pin" x="16" y="426">Not on the grid:</text>
-<text class="axis" x="32" y="440">n: tile t&amp;1</text>
+<text class="pin" x="16" y="430">Not on the grid:</text>
+<text class="axis" x="32" y="444">n: tile t&amp;1</text>
 </g>
 </svg>
 )j";

@@ -219,6 +219,18 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"plInterfaceUnwritable", nullptr,
                 "plinterface write" + handOff + " $E/compiler_solution.json $D/no/out.json", 1,
                 "plinterface: cannot write $D/no/out.json\n"},
+        RunCase{"constraintsDraw", nullptr,
+                "constraints draw $E/array_placement.json $D/out.svg --device qpe_demo && "
+                "cmp $E/array_placement.svg $D/out.svg",
+                0,
+                "constraints $E/array_placement.json -> $D/out.svg: 6 columns, 5 rows, 2 area "
+                "groups, 1 off the grid\n"},
+        RunCase{"constraintsDrawUnknownDevice", nullptr,
+                "constraints draw $E/array_placement.json $D/out.svg --device nosuch", 1,
+                "@90-1@", true},
+        RunCase{"constraintsDrawUnwritable", nullptr,
+                "constraints draw $E/array_placement.json $D/none/out.svg", 1,
+                "constraints: cannot write $D/none/out.svg\n", true},
         RunCase{"constraintsCheck", nullptr, "constraints check $E/constraints.json", 0,
                 "constraints $E/constraints.json" + constraintsCounts},
         RunCase{"constraintsRoundtrip", nullptr,
@@ -292,6 +304,21 @@ TEST(IpconfigRwDotTest, GraphvizRendersThePictures)
     const RunResult result = runTool(expand(run, dir) + " | dot -Tsvg -o " + dir.file("out.svg"));
     EXPECT_EQ(result.exitCode, 0) << run << ": " << result.output;
     EXPECT_NE(readFile(dir.file("out.svg")).find("<svg"), std::string::npos) << run;
+  }
+}
+
+TEST(IpconfigRwPictureTest, ConstraintsPicturesRenderWithRsvg)
+{
+  if (runTool("--help > /dev/null && command -v rsvg-convert").exitCode != 0)
+    GTEST_SKIP() << "rsvg-convert is not installed";
+  for (const char* file : {"array_placement.json", "placement.json", "area_groups.json"}) {
+    const TempDir dir;
+    const RunResult result =
+        runTool(expand(std::string("constraints draw $E/") + file + " $D/out.svg", dir) +
+                " > /dev/null && rsvg-convert " + dir.file("out.svg") + " -o " +
+                dir.file("out.png"));
+    EXPECT_EQ(result.exitCode, 0) << file << ": " << result.output;
+    EXPECT_EQ(readFile(dir.file("out.png")).compare(1, 3, "PNG"), 0) << file;
   }
 }
 

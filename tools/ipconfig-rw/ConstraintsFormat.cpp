@@ -149,7 +149,7 @@ Format constraintsFormat()
               {"areagroups", {"IN", "OUT"}, "read the groups of IN and write them alone to OUT",
                areagroups},
               {"draw",
-               {"FILE", "OUT"},
+               {"FILE", "OUT.svg"},
                "draw the placements and area groups of FILE on the array as an SVG picture",
                draw,
                {{"device", "NAME", "shipped array device whose columns and channels to show", ""}}},

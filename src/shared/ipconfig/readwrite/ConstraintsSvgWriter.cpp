@@ -132,7 +132,7 @@ ConstraintsSvgWriter::ConstraintsSvgWriter(const ArrayPlacements& placements, st
 {
   tileRowHeight = 8 + lineHeight * (mostLines(placements.getTiles()) + 1);
   interfaceTop = gridTop + placements.getRows() * tileRowHeight + 8;
-  interfaceHeight = 8 + slotHeight + lineHeight * (mostLines(placements.getShimColumns()) + 1);
+  interfaceHeight = 12 + slotHeight + lineHeight * (mostLines(placements.getShimColumns()) + 1);
   slotWidth = std::max(1, (cellWidth - 8) / placements.getChannels());
   legendTop = interfaceTop + interfaceHeight + 32;
   groupListTop = legendTop + static_cast<int>(legend.size()) * legendLine;
