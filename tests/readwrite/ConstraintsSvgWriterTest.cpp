@@ -223,7 +223,12 @@ INSTANTIATE_TEST_SUITE_P(
                       R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
                           "tileGroup": ["(1,1):(3,2)", 6, "t_a:t_b"],
                           "shimGroup": ["(2,3):(4,7)"], "memGroup": ["(0,5)"]}}})j",
-                      7, 6, 8, {"area group g: core t_a:t_b"}}));
+                      7, 6, 8, {"area group g: core t_a:t_b"}},
+        PlacementCase{"secondEndOffTheGrid",
+                      R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
+                          "tileGroup": ["(1,1):(300,1)"], "shimGroup": ["(2,0):(t_c)"]}}})j",
+                      3, 2, 1,
+                      {"area group g: core (1,1):(300,1)", "area group g: shim (2,0):t_c"}}));
 
 TEST(ArrayPlacementsTest, GroupBoxesSpanAFreeAxisAndKeepTheirBand)
 {

@@ -148,8 +148,9 @@ void ArrayPlacements::addGroup_(const AreaGroupConstr& group)
     addGroupRange_(groups.back(), range);
 }
 
-// A range is drawn on the band of its first end; a second end of the other
-// band, or one by name, leaves the first end alone.
+// A range is drawn on the band of its first end. A second end of the other
+// band, by name or off the grid leaves the first end drawn alone, and the
+// whole range listed as off the grid.
 void ArrayPlacements::addGroupRange_(Group& group, const PhysicalRange& range)
 {
   const PhysicalSpec& first = range.getFirst();
@@ -159,11 +160,13 @@ void ArrayPlacements::addGroupRange_(Group& group, const PhysicalRange& range)
     return end.isXYBased() && end.isShim() == onInterfaceRow && onGrid(end.getColumn()) &&
            freeOrOnGrid(other);
   };
-  if (!placeable(first)) {
+  const bool wholeRange = placeable(range.getSecond()) || !range.getSecond().isValid();
+  if (!placeable(first) || !wholeRange) {
     if (first.isValid())
       offGrid.push_back("area group " + group.name + ": " +
                         PhysicalSpec::toString(first.getPhysicalType()) + " " + rangeText(range));
-    return;
+    if (!placeable(first))
+      return;
   }
   const PhysicalSpec& second = placeable(range.getSecond()) ? range.getSecond() : first;
   const auto axis = [onInterfaceRow](const PhysicalSpec& end) {
