@@ -3,6 +3,7 @@
 #include "HIPDevice.h"
 #include "NOCJsonReadWriteUtils.h"
 #include "NOCJsonSolutionReader.h"
+#include "NOCJsonSolutionWriter.h"
 #include "NOCModel.h"
 #include "TrafficSpec.h"
 
@@ -137,5 +138,39 @@ void BM_SolutionRead(benchmark::State& state)
   state.counters["ratio"] = readSeconds / floorSeconds;
 }
 BENCHMARK(BM_SolutionRead)->Args({500, 5000})->Args({2500, 50000})->Unit(benchmark::kMillisecond);
+
+// "ratio": the writer's processor time over that of validating and
+// pretty-printing the document it writes, measured in turns.
+void BM_SolutionWrite(benchmark::State& state)
+{
+  const Design design(state.range(0), state.range(1));
+  const DevHrdIP::HIPDevice device(&design.model);
+  HDGUIStatus status;
+  CompRes result(&device);
+  std::istringstream in(makeSolution(state.range(0), state.range(1)));
+  NOC::NOCJsonSolutionReader().readFromJsonFile(in, "bench.json", design.spec, result, status);
+  std::ostringstream written;
+  NOC::NOCJsonSolutionWriter().writeToJsonFile(written, design.spec, result, status, true);
+  JDocument document;
+  document.Parse(written.str().c_str());
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getSolutionJsonSchemaFile();
+  double writeSeconds = 0;
+  double floorSeconds = 0;
+  for (auto _ : state) {
+    std::ostringstream out;
+    writeSeconds += cpuSeconds([&] {
+      NOC::NOCJsonSolutionWriter().writeToJsonFile(out, design.spec, result, status, true);
+    });
+    benchmark::DoNotOptimize(out.tellp());
+    state.PauseTiming();
+    std::ostringstream floorOut;
+    floorSeconds += cpuSeconds(
+        [&] { benchmark::DoNotOptimize(validateAndPrettyPrint(document, floorOut, schemaPath)); });
+    state.ResumeTiming();
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(1));
+  state.counters["ratio"] = writeSeconds / floorSeconds;
+}
+BENCHMARK(BM_SolutionWrite)->Args({500, 5000})->Args({2500, 50000})->Unit(benchmark::kMillisecond);
 
 }  // namespace
