@@ -99,6 +99,13 @@ INSTANTIATE_TEST_SUITE_P(
                 "solution $E/solution.json: OPTIMAL on xq2vp1502, 11 routes (2 locked) over 22 "
                 "links, 6 placements (0 locked), 7 destination ids, 3 read and 3 write path "
                 "latencies\n"},
+        RunCase{"solutionRoundtrip", nullptr,
+                "solution roundtrip $E/traffic.json $E/solution_written.json $D/out.json", 0,
+                "solution $E/solution_written.json -> $D/out.json: OPTIMAL, 11 routes, 7 "
+                "destination ids\n"},
+        RunCase{"solutionUnwritable", nullptr,
+                "solution roundtrip $E/traffic.json $E/solution.json $D/no/out.json", 1,
+                "solution: cannot write $D/no/out.json\n"},
         RunCase{"solutionUnknownComponent", R"({"Components": [{"Name": "NPS_X9Y9"}]})",
                 "solution check $E/traffic.json $D/in.json", 0,
                 "CRITICAL WARNING: [ipconfig @75-184@] NPS_X9Y9\n", true},
