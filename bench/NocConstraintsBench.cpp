@@ -19,7 +19,7 @@ namespace {
 namespace Defs = DevHrdIP::Definitions;
 
 // `placements` instances, each pinned to `perPlacement` components of its
-// own, all known to the spec and the device.
+// own, all known to the traffic model and the device.
 class Design {
 public:
   Design(int placements, int perPlacement)

@@ -22,9 +22,9 @@ namespace NOC {
 
 // Reads a NoC constraints file (schema "constraints.json") into a
 // Constraints: each element of "Placement" pins a logical instance of the
-// traffic spec to the device components it may take. Names are already
+// traffic model to the device components it may take. Names are already
 // those of the model, so the resolver is accepted and not asked. An
-// instance the spec does not know, or a component the device does not know,
+// instance the model does not know, or a component the device does not know,
 // is dropped without a word; an element left with no component adds
 // nothing. Failures of the file throw the HEXAll of the
 // HCRapidJsonReadWriteUtils error calls. Progress: 20 after validation, 100

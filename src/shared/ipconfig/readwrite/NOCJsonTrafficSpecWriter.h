@@ -26,7 +26,7 @@ namespace NOC {
 //
 // A model with no instance, no user-set frequency and no DFX path gives
 // false and no text. A document that fails the schema sends "@75-585@%s"
-// ("NoC Traffic Spec"), gives false and leaves the text up to the failing
+// with the writer's name as its argument, gives false and leaves the text up to the failing
 // value.
 class IPCONFIG_READWRITE_EXPORT NOCJsonTrafficSpecWriter {
 public:
