@@ -57,6 +57,8 @@ cmp "$examples/traffic.json" "$out/from-gz.json"
   "$out/solution_written.json"
 "$tool" solution check "$examples/traffic.json" "$out/solution_written.json"
 run nocconstraints noc_constraints.json
+"$tool" nocconstraints check "$examples/noc_constraints_on_device.json" \
+  --traffic "$examples/traffic.json"
 run constraints constraints.json
 run constraints placement.json
 run constraints colocation.json

@@ -83,6 +83,18 @@ INSTANTIATE_TEST_SUITE_P(
                 "nocconstraints roundtrip $E/noc_constraints.json $D/out.json", 0,
                 "nocconstraints $E/noc_constraints.json -> $D/out.json: 3 placements (1 soft), "
                 "6 components\n"},
+        // Against the traffic example on its shipped device, the names the
+        // device lacks are counted; the reader drops them without a word.
+        RunCase{"nocConstraintsCheckOnDevice", nullptr,
+                "nocconstraints check $E/noc_constraints_on_device.json "
+                "--traffic $E/traffic.json",
+                0,
+                "nocconstraints $E/noc_constraints_on_device.json: 3 placements (1 soft), "
+                "4 components\n"},
+        RunCase{"nocConstraintsNotOnDevice", nullptr,
+                "nocconstraints check $E/noc_constraints.json --traffic=$E/traffic.json", 0,
+                "nocconstraints $E/noc_constraints.json: 0 placements (0 soft), 0 components; "
+                "not in the design: 0 instances, 6 components\n"},
         RunCase{"nocConstraintsBadValue", R"({"Placement": [{"IsSoft": 1}]})",
                 "nocconstraints check $D/in.json", 1,
                 "ERROR: [ipconfig @90-2@] $D/in.json /Placement/0/IsSoft\n"},
