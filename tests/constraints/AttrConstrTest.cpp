@@ -136,30 +136,4 @@ TEST(AttrValueTest, DefaultBitIsSetExactlyWhenTheValueIsTheDefault)
   }
 }
 
-TEST(AttrValueTest, ClearAndCopyKeepDefaultsAndOtherFlagBits)
-{
-  AttrValue number(5, 7);
-  *number.getFlags() |= 0x01;
-  AttrValue copy(HATAttrTypes::AttrBool);
-  copy = number;
-  copy.clear();
-  EXPECT_EQ(copy.getIntVal(), 7) << "the default travels with a copy";
-  EXPECT_EQ(*copy.getFlags(), 0x21) << "only the default bit is ours";
-  EXPECT_EQ(copy.getAttrType(), HATAttrTypes::AttrInt);
-  EXPECT_EQ(number.getIntVal(), 5);
-
-  AttrValue text("name", "dflt");
-  text.clear();
-  EXPECT_EQ(text.getStringVal(), "dflt");
-
-  for (auto type : {HATAttrTypes::AttrBool, HATAttrTypes::AttrInt, HATAttrTypes::AttrDouble}) {
-    AttrValue value(type);
-    const double expected = type == HATAttrTypes::AttrBool ? 0.0 : -1.0;
-    EXPECT_EQ(value.getDoubleVal(), expected) << type;
-    value.setIntVal(4);
-    value.clear();
-    EXPECT_EQ(value.getDoubleVal(), expected) << type;
-  }
-}
-
 }  // namespace

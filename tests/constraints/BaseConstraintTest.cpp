@@ -1,7 +1,5 @@
 #include "ConstrSupport.h"
 
-#include "ConstrCast.h"
-#include "ConstrUtils.h"
 #include "PortRenamer.h"
 
 namespace {
@@ -12,14 +10,8 @@ using namespace constr_support;
 class TestConstr : public BaseConstraint {
 public:
   using BaseConstraint::BaseConstraint;
-  using BaseConstraint::getResolvedName;
-  using BaseConstraint::isSoftConstraintForObject;
   using BaseConstraint::resolveNodeNames;
   using BaseConstraint::resolveScopedPortNames;
-  using BaseConstraint::setConstrObjectProperties;
-  using BaseConstraint::setConstrObjectsProperties;
-  using BaseConstraint::setSoftConstraintForObject;
-  using BaseConstraint::writeConstraintObjectsWithProperties;
   using BaseConstraint::writeGroupSrcInfo;
 
   void clone(ConstrHandler&, const BaseNameResolver*) const override {}
@@ -70,24 +62,6 @@ TEST(BaseConstraintTest, ConstructorsNameTheConstraintAndRefuseUnnamedAttributes
   expectRefused([] { TestConstr{Base::Attr}; }, refused);
 }
 
-TEST(BaseConstraintTest, OnlySoftPropertiesAreKept)
-{
-  TestConstr constr(Base::ColocatedNodes, Base::NODE, "n");
-  constr.setConstrObjectProperties("a", ConstrProperties{});
-  constr.setConstrObjectsProperties({{"b", {true}}, {"c", {false}}});
-  EXPECT_EQ(constr.getConstrObjectsProperties(), (ConstrPropertiesMap{{"b", {true}}}));
-
-  ConstrPropertiesMap map;
-  TestConstr::setSoftConstraintForObject("a", false, map);
-  EXPECT_TRUE(map.empty()) << "false creates no entry";
-  TestConstr::setSoftConstraintForObject("a", true, map);
-  EXPECT_TRUE(TestConstr::isSoftConstraintForObject("a", map));
-  TestConstr::setSoftConstraintForObject("a", false, map);
-  EXPECT_EQ(map, (ConstrPropertiesMap{{"a", {false}}})) << "an existing entry takes false";
-  EXPECT_FALSE(TestConstr::isSoftConstraintForObject("a", map));
-  EXPECT_FALSE(TestConstr::isSoftConstraintForObject("missing", map));
-}
-
 // Tells which of its operations resolved a name.
 class KindResolver : public BaseNameResolver {
 public:
@@ -98,19 +72,6 @@ public:
 };
 
 class BaseConstraintMsgTest : public MessageLogTest {};
-
-TEST_F(BaseConstraintMsgTest, ResolvedNameFollowsTheObjectType)
-{
-  const KindResolver resolver;
-  const std::pair<Base::ObjectType, const char*> cases[] = {
-      {Base::NODE, "n:o"}, {Base::PORT, "p:o"}, {Base::NET, "e:o"}, {Base::GLOBAL, "o"}};
-  for (const auto& [objType, expected] : cases) {
-    const TestConstr constr(Base::Tile, objType, "o");
-    EXPECT_EQ(TestConstr::getResolvedName(&constr, &resolver), expected);
-    EXPECT_EQ(TestConstr::getResolvedName(&constr, nullptr), "o");
-  }
-  expectSent({});
-}
 
 TEST_F(BaseConstraintMsgTest, RekeyingMovesPropertiesToEveryResolvedName)
 {
@@ -159,53 +120,6 @@ TEST(BaseConstraintTest, OnlyALocationInAnotherSourceFileIsWritten)
     TestConstr::writeGroupSrcInfo(doc, group, constr.getSrcInfo());
     EXPECT_EQ(toText(group), c.groupKey ? R"({"srcInfo":)" + std::string(written) + "}" : "{}");
   }
-}
-
-TEST(BaseConstraintTest, WritesListsWithProperties)
-{
-  JDocument doc(rapidjson::kObjectType);
-  const ConstrPropertiesMap props{{"b", {true}}, {"c", {false}}};
-  TestConstr::writeConstraintObjectsWithProperties({}, props, doc, doc, "none");
-  TestConstr::writeConstraintObjectsWithProperties({"a", "b", "c"}, props, doc, doc, "list");
-  EXPECT_EQ(toText(doc), R"({"list":["a",{"b":{"issoft":true}},"c"]})");
-}
-
-// The test class is of no kind, so every cast refuses it and no operation is
-// reached: a kind is only ever handed over as itself.
-TEST(BaseConstraintTest, CastsAndVisitorsHandOutNothingButTheKindItself)
-{
-  KindRecorder<BaseVisitor, Mutable> visitor;
-  KindRecorder<ConstBaseVisitor, ReadOnly> constVisitor;
-  visitor.visit(static_cast<Base*>(nullptr));
-  constVisitor.visit(static_cast<const Base*>(nullptr));
-  for (int type = 0; type < 18; ++type) {
-    TestConstr constr(static_cast<Base::ConstrType>(type), "c", Base::NODE, "n");
-    visitor.visit(&constr);
-    constVisitor.visit(static_cast<const Base*>(&constr));
-    EXPECT_EQ(ConstrCast::toTile(&constr), nullptr);
-    EXPECT_EQ(ConstrCast::checkedCast<TestConstr>(&constr, Base::Mem) != nullptr,
-              type == Base::Mem);
-  }
-  EXPECT_EQ(ConstrCast::checkedCast<TestConstr>(nullptr, Base::Mem), nullptr);
-  EXPECT_TRUE(visitor.kinds.empty() && constVisitor.kinds.empty());
-}
-
-// The helpers that no operation of the store already pins.
-TEST(ConstrUtilsTest, FreeHelpers)
-{
-  Names names{"a"};
-  for (const char* name : {"b", "", "a", "b"})
-    addIfUnique(name, names);
-  EXPECT_EQ(names, (Names{"a", "b"}));
-  EXPECT_FALSE(contains(names, "B"));
-  EXPECT_FALSE(isValSet(-1) || isValSet(-0.5));
-  EXPECT_TRUE(isValSet(0));
-
-  const TestConstr a(Base::Tile, Base::NODE, "a"), group(Base::InstGroup);
-  const std::vector<const Base*> constrs{&a, &group, &a};
-  Names unique;
-  getUniqueObjNames(constrs.begin(), constrs.end(), unique);
-  EXPECT_EQ(unique, (Names{"a", ""})) << "a global constraint counts with its empty name";
 }
 
 class BaseNameResolverTest : public MessageLogTest {};
@@ -260,17 +174,6 @@ TEST_F(BaseNameResolverTest, IdentityKeepsNamesButNotEmptyOnes)
   EXPECT_TRUE(pattern.empty());
   expectSent({{"@75-412@%s", ComMsgMgr::CriticalWarning, {""}},
               {"@75-413@%s", ComMsgMgr::CriticalWarning, {" "}}});
-}
-
-TEST_F(BaseNameResolverTest, PatternsExpandOnlyInThePlainLists)
-{
-  const Resolver resolver("");
-  Names plain{"bus*", "clk"}, scoped{"bus*"};
-  resolver.resolvePortNames(plain);
-  resolver.resolveScopedPortNames(scoped);
-  EXPECT_EQ(plain, (Names{"bus0", "bus1", "clk"}));
-  EXPECT_EQ(scoped, (Names{"bus*"}));
-  expectSent({});
 }
 
 TEST(PortRenamerTest, RenamesNamesListsAndProperties)

@@ -270,28 +270,6 @@ TEST(ColocationStoreTest, RenamingPortsRenamesThePortListsButNotNodes)
   EXPECT_EQ(ports->getPortNames(), (Names{"a2", "b"}));
 }
 
-TEST(ColocationStoreTest, CastsVisitorsAndDumpReachEveryColocationKind)
-{
-  ConstrHandler handler;
-  handler.addColocatedNodesConstr(Base::NODE, "n", {"a"}, false);
-  handler.addColocatedPortsConstr(Base::PORT, "p", {"q"}, true);
-  handler.addColocatedDmaConstr(Base::PORT, "p", {"q"});
-  handler.addColocatedMemoriesConstr(Base::NODE, "n", {"m"}, false);
-  KindRecorder<ConstBaseVisitor, ReadOnly> visitor;
-  handler.accept(visitor);
-  EXPECT_EQ(visitor.kinds, (Names{"ColocatedNodesConstr", "ColocatedPortsConstr",
-                                  "ColocatedDmaConstr", "ColocatedMemoriesConstr"}));
-  const Base* memories = handler.getConstr("n", Base::ColocatedMemories);
-  EXPECT_NE(ConstrCast::toColocatedMemories(memories), nullptr);
-  EXPECT_EQ(ConstrCast::toColocatedNodes(memories), nullptr);
-  EXPECT_EQ(handler.getConstr("n", "qpe.colocated_reserved_memories"), memories);
-  testing::internal::CaptureStdout();
-  handler.dump();
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
-            " rel(n,colocated_nodes)=(a,)\n rel(p,not_colocated_ports)=(q,)\n"
-            " rel(p,colocated_dma)=(q,)\n rel(n,colocated_memories)=(m,)\n");
-}
-
 class ColocationReaderTest : public MessageLogTest {
 protected:
   const ConstrHandler& read(const std::string& text)

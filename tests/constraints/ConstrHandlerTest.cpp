@@ -331,34 +331,4 @@ TEST(FifoLocationsRecordsTest, CopyReplacesByNameAndKeepsTheRest)
   EXPECT_FALSE(table.equals(from.getRecords()));
 }
 
-TEST(FifoLocationsRecordsTest, RecordsCompareByKindAndContents)
-{
-  const DmaFifoRecord dma("a", PhysicalSpec::Mem, 1, 2, 3, 4, 5);
-  const DmaFifoRecord dmaElsewhere("b", PhysicalSpec::Mem, 1, 2, 3, 4, 6);
-  const StreamFifoRecord stream("a", PhysicalSpec::Mem, 1, 2, 3);
-  const UnspecifiedFifoRecord unspecifiedA("a");
-  const UnspecifiedFifoRecord unspecifiedB("b");
-  const auto unspecifiedClone = unspecifiedA.clone();
-  const DmaFifoRecord dmaRenamed("other name", PhysicalSpec::Mem, 1, 2, 3, 4, 5);
-  const StreamFifoRecord streamOnCore("a", PhysicalSpec::Core, 1, 2, 3);
-  const struct {
-    const FifoLocationsRecord& a;
-    const FifoLocationsRecord& b;
-    bool equal;
-  } cases[] = {
-      {dma, dmaRenamed, true},
-      {dma, dmaElsewhere, false},
-      {stream, streamOnCore, false},
-      {dma, stream, false},
-      {unspecifiedA, *unspecifiedClone, true},
-      {unspecifiedA, unspecifiedB, false},
-      {unspecifiedA, dma, false},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(FifoLocationsRecord::equals(c.a, c.b), c.equal) << c.a.getName() << c.b.getName();
-
-  EXPECT_FALSE(isDmaFifoRecord(&stream));
-  EXPECT_FALSE(isStreamFifoRecord(nullptr));
-}
-
 }  // namespace

@@ -194,20 +194,6 @@ TEST_F(PlacementConstrTest, MemoryAddressesAreWrittenWhenGivenAndShownWhenComple
   EXPECT_EQ(written(reserved), R"({"reserved_memory":{"row":4}})");
 }
 
-TEST_F(PlacementConstrTest, TheStoreMakesOnePlacementOfAKindPerObjectAndReplacesIt)
-{
-  handler.setTileConstr("n", 1, 2, PhysicalSpec::Mem);
-  handler.setTileConstr("n", "t");
-  handler.setShimConstr("n", 4, 1);
-  handler.setShimConstr("n", 6, 2);
-  handler.setTileConstr("", 1, 2, PhysicalSpec::Core);
-  handler.setBufferConstr("", Address(), Address(), Address());
-  ASSERT_EQ(handler.size(), 2u);
-  EXPECT_EQ(handler.getTileConstr("n")->getName(), "t");
-  EXPECT_EQ(handler.getTileConstr("n")->getTileType(), PhysicalSpec::Mem);
-  EXPECT_EQ(handler.getConstr("n", "shim")->str(), " abs(n,shim)=(6,2)");
-}
-
 // Each object holds one case, read with validation off so that the schema
 // does not stand in the way. What the store holds is compared as
 // ConstrHandler::dump prints it.
@@ -251,19 +237,6 @@ std::string rangesText(const Ranges& ranges)
 PhysicalSpec mem(int x, int y)
 {
   return at(x, y, json::MemSpec());
-}
-
-TEST(AreaGroupConstrTest, NodesOnceInTheOrderOfTheirFirstAdd)
-{
-  AreaGroupConstr group("g");
-  EXPECT_FALSE(group.isNodeGroupSet());
-  group.addNode("b");
-  group.addNodeGroup({"a", "b", "c", "a"});
-  group.addNode("b");
-  EXPECT_EQ(group.getNodeGroup(), (Names{"b", "a", "c"}));
-  group.setNodeGroup({"d", "d"});
-  group.addNode("c");
-  EXPECT_EQ(group.getNodeGroup(), (Names{"d", "c"})) << "a name set aside is no longer held";
 }
 
 TEST(AreaGroupConstrTest, RangesNeedASetFirstEndExceptInAWholeGroup)
@@ -310,19 +283,6 @@ TEST(AreaGroupConstrTest, TextAndFileForm)
             R"j("shimGroup":["(3,0):(4,1)","(5,2)"],)j"
             R"j("srcInfo":{"file":"g.cpp","line":1,"column":2}}})j");
   EXPECT_EQ(written(AreaGroupConstr("")), "{}");
-}
-
-// The moves themselves are those of every kind (ConstrKindsTest).
-TEST(AreaGroupConstrTest, OffsetColumnResetsUnsetEnds)
-{
-  AreaGroupConstr group("g");
-  group.addPhysicalGroup({PhysicalRange(bank(2, 4, at(1, 0)), bank(5, 5, row(2, mem(-1, -1))))});
-  group.offsetColumn(3);
-  const PhysicalRange& range = group.getPhysicalGroup().front();
-  EXPECT_EQ(range.str(), "low=tile=(4,0)");
-  EXPECT_FALSE(range.getFirst().isBankSet());
-  EXPECT_TRUE(range.getSecond().isTile() && !range.getSecond().isBankSet() &&
-              !range.getSecond().isRowSet());
 }
 
 TEST(AreaGroupConstrTest, TheStoreMergesAddsAndReplacesOnSet)

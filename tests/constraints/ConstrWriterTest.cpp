@@ -132,8 +132,9 @@ TEST_F(ConstrWriterStrictSchemaTest, AFailedWriteThrowsAndLeavesTheTextBeforeThe
       << "without validation the whole store is written";
 }
 
-// A file, and what its first write gives: the file itself when no golden
-// file is named. A second round trip gives the bytes of the first.
+// A file that its first write merges or puts in order, and the golden text
+// of that write; a second round trip gives the bytes of the first. Examples
+// that come back as they stand are left to run-examples.
 struct RoundTripCase {
   const char* name;
   std::string input;
@@ -163,7 +164,7 @@ TEST_P(ConstrRoundTripTest, SettlesAfterOneWrite)
 {
   const RoundTripCase& c = GetParam();
   const std::string once = roundTrip(c.input, "once.json");
-  EXPECT_EQ(once, readFile(c.golden.empty() ? c.input : c.golden));
+  EXPECT_EQ(once, readFile(c.golden));
   EXPECT_EQ(roundTrip(dir.file("once.json"), "twice.json"), once);
 }
 
@@ -173,10 +174,6 @@ const std::string data = IPCONFIG_RW_TESTS_DATA_DIR "/";
 INSTANTIATE_TEST_SUITE_P(
     Files, ConstrRoundTripTest,
     ::testing::Values(
-        RoundTripCase{"constraints", examples + "constraints.json", ""},
-        RoundTripCase{"placement", examples + "placement.json", ""},
-        RoundTripCase{"colocation", examples + "colocation.json", ""},
-        RoundTripCase{"everyKind", examples + "every_kind.json", ""},
         RoundTripCase{"areaGroups", examples + "area_groups.json",
                       data + "area_groups_written.json"},
         RoundTripCase{"placementInKeyOrder", data + "placement_unordered.json",

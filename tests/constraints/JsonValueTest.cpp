@@ -1,15 +1,9 @@
 #include "TestSupport.h"
 
 #include "ComplexPair.h"
-#include "ComplexPairWithXY.h"
 #include "ComplexRange.h"
-#include "DefaultXYValues.h"
-#include "JArray.h"
-#include "JIntPair.h"
 #include "JMemValue.h"
 #include "JShimValue.h"
-#include "JSimpleValue.h"
-#include "JString.h"
 #include "JTileValue.h"
 #include "JsonValueUtils.h"
 
@@ -95,20 +89,6 @@ TEST_F(JsonTextTest, RangesSplitAtTheFirstColonAndPairsIntoNumbersOrAName)
   expectSent({{"@75-647@%s", critical, {":5"}}});
 }
 
-TEST_F(JsonTextTest, PairsWithXYReadXBeforeYOnly)
-{
-  constexpr int unset = DefaultXYValues::XCoordinateNotSetValue;
-  const struct {
-    const char* text;
-    int x, y;
-  } cases[] = {{"(X=1,Y=2)", 1, 2},     {"(X=-1,Y=0)", -1, 0}, {"(Y=1,X=2)", unset, unset},
-               {"(1,2)", unset, unset}, {"X=3", 3, unset},     {"Y=4", unset, 4},
-               {"X3", -1, unset},       {"(X=,Y=4)", unset, 4}, {"", unset, unset}};
-  for (const auto& c : cases)
-    EXPECT_EQ(fields(ComplexPairWithXY(c.text)), std::to_string(c.x) + "," + std::to_string(c.y))
-        << c.text;
-}
-
 template <typename View>
 std::string parsedLocation(const JValue& value)
 {
@@ -147,32 +127,6 @@ TEST_F(JsonTextTest, LocationValuesParseTheNewAndTheOldSyntax)
     EXPECT_EQ(parsedLocation<JMemValue>(*doc), as("mem")) << c.json;
     EXPECT_EQ(parsedLocation<JShimValue>(*doc), as("shim")) << c.json;
   }
-}
-
-TEST(JsonViewTest, MissingOrMistypedValuesReadAsTheSharedNull)
-{
-  const auto doc = parsed(R"({"a": [1, 2], "b": "s", "n": [1, "x"]})");
-  const JBaseValue root(*doc);
-  EXPECT_EQ(&root.getMember(""), &JBaseValue::nullValue());
-  EXPECT_EQ(&root.getMember("missing"), &JBaseValue::nullValue());
-  EXPECT_EQ(&JBaseValue(root.getMember("b")).getMember("x"), &JBaseValue::nullValue());
-  EXPECT_TRUE(JBaseValue(root.getMember("n")).isPair());
-  EXPECT_FALSE(JBaseValue(root.getMember("n")).isIntPair());
-  EXPECT_FALSE(JIntPair(root.getMember("n")).isValid());
-  EXPECT_EQ(JIntPair(root.getMember("n")).getFirst(), -1);
-  EXPECT_EQ(JIntPair(root.getMember("a")).getSecond(), 2);
-
-  const auto simple = parsed(R"([true, 3, 1.5, "s", null, [], {}, 3000000000])");
-  const bool expected[] = {true, true, true, true, false, false, false, false};
-  int i = 0;
-  for (JArray values(*simple); !values.isEnd(); values.advance(), ++i) {
-    EXPECT_EQ(JSimpleValue(values._front()).isValid(), expected[i]) << i;
-    EXPECT_EQ(JString(values._front()).isValid(), i == 3) << i;
-  }
-  EXPECT_EQ(i, 8);
-  const JArray notArray(*doc, "b");
-  EXPECT_FALSE(notArray.isValid());
-  EXPECT_TRUE(notArray.isEnd());
 }
 
 TEST(JsonViewTest, ListsAndSourceLocations)

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <random>
 #include <tuple>
-#include <type_traits>
 
 namespace {
 
@@ -92,23 +91,6 @@ TEST(LineFinderTest, HandWrittenCasesAgreeWithTheScan)
                           "say \\\"hi\\\"", "sp ace", ": ", "NodeConstraints", "}", "\r"});
 }
 
-TEST(LineFinderTest, HoldsViewsIntoItsOwnTextSoItIsNeitherCopiedNorMoved)
-{
-  EXPECT_FALSE(std::is_copy_constructible_v<LineFinder>);
-  EXPECT_FALSE(std::is_copy_assignable_v<LineFinder>);
-  EXPECT_FALSE(std::is_move_constructible_v<LineFinder>);
-  EXPECT_FALSE(std::is_move_assignable_v<LineFinder>);
-}
-
-TEST(LineFinderTest, ALastLineWithoutALineEndIsIndexed)
-{
-  const TempDir dir;
-  const std::string path = dir.file("c.json");
-  writeFile(path, "{\"n\":\n {\"k\": 1}}");
-  LineFinder finder(path);
-  EXPECT_EQ(indexed(finder, "n", "k"), (Location{true, 2, 3}));
-}
-
 // Lines of quoted texts drawn from a small vocabulary, so that texts repeat
 // on a line and across lines, with stray quotes, empty lines, carriage
 // returns and no final line end.
@@ -139,33 +121,6 @@ TEST(LineFinderTest, GeneratedFilesAgreeWithTheScan)
     writeFile(path, randomText(random, pieces, 1 + file % 12));
     expectSameAsScan(path, texts);
   }
-}
-
-// Placement keys beside their source keys, which hold the key's text but not
-// quoted alone, and groups whose names are node names too; a group is found
-// by its name alone.
-TEST(LineFinderTest, AGeneratedConstraintsFileAgreesWithTheScan)
-{
-  std::string text = "{\n  \"NodeConstraints\": {\n";
-  std::vector<std::string> texts{"",     "NodeConstraints", "margin",    "label", "tile",
-                                 "shim", "tile_src_info",   "areaGroup", "name",  "g"};
-  const std::string tile = "      \"tile\": {\"column\": 1},\n";
-  const std::string tileSrcInfo = "      \"tile_src_info\": {\"file\": \"tile\"},\n";
-  for (int i = 0; i < 40; ++i) {
-    const std::string name = "top/n" + std::to_string(i % 25);
-    texts.push_back(name);
-    text += "    \"" + name + "\": {\n" + (i % 3 == 0 ? tileSrcInfo + tile : tile + tileSrcInfo) +
-            (i % 4 == 0 ? "      \"shim\": {\"name\": \"shim\"},\n" : "") +
-            "      \"margin\": " + std::to_string(i) + ",\n      \"label\": \"top/n" +
-            std::to_string(i + 1) + "\"\n    },\n";
-  }
-  text += "    \"last\": {}\n  },\n  \"GlobalConstraints\": {\n";
-  for (int i = 0; i < 30; i += 7)
-    text += "    \"areaGroup\": {\"name\": \"top/n" + std::to_string(i) + "\"},\n";
-  text += "    \"areaGroup\": {\"name\": \"g\"}\n  }\n}";
-  const TempDir dir;
-  writeFile(dir.file("c.json"), text);
-  expectSameAsScan(dir.file("c.json"), texts);
 }
 
 class LineFinderReportTest : public testing_support::MessageLogTest {};

@@ -192,20 +192,4 @@ TEST(PhysicalRangeTest, ShiftsCoordinateEndsOnly)
   }
 }
 
-TEST(PhysicalRangeTest, RectanglesAndBoundingBoxes)
-{
-  Range range(at(1, 2), at(3, 4));
-  EXPECT_EQ(range.getRect(), HDRectangle<int>(3, 4, 1, 2));
-  EXPECT_TRUE(range.isWithinBoundingBox({3, 4, 1, 2}));
-  EXPECT_FALSE(range.isWithinBoundingBox({3, 3, 1, 2})) << "second row outside";
-  EXPECT_FALSE(range.isWithinBoundingBox({3, 4, 2, 2})) << "first column outside";
-  range.setRect({9, 8, 7, 6});
-  EXPECT_EQ(range.str(), "low=tile=(7,6) high=tile=(9,8)");
-
-  Range names(named("a"), named("b"));
-  EXPECT_TRUE(names.isWithinBoundingBox({0, 0, 0, 0}));
-  names.setRect(names.getRect());
-  EXPECT_FALSE(names.getFirst().isValid() || names.getSecond().isValid());
-}
-
 }  // namespace

@@ -51,22 +51,6 @@ TEST(PortLocConstrTest, NameClearsTheChannelColumnsMoveAndTheTextSaysShim)
   EXPECT_EQ(location.getName(), "s");
 }
 
-TEST(StreamChannelConstrTest, DirectionsAreReadInAnyCaseAndUnknownWordsChangeNothing)
-{
-  StreamChannelConstr stream(Base::PORT, "p");
-  const std::pair<const char*, const char*> steps[] = {
-      {"NORTH", "North"}, {"west", "West"}, {"up", "West"}, {"", "unset"}, {"sOuTh", "South"},
-      {"Unset", "unset"}, {"East", "East"},
-  };
-  for (const auto& [given, held] : steps) {
-    stream.setDirection(std::string(given));
-    EXPECT_EQ(stream.getDirectionAsStr(), held) << given;
-  }
-  stream.setDirection(static_cast<StreamChannelConstr::Direction>(9));
-  EXPECT_EQ(stream.getDirectionAsStr(), "unset");
-  EXPECT_TRUE(stream.isDirectionSet());
-}
-
 TEST(StreamChannelConstrTest, BothFormsAreWrittenPrintedAsRelativeAndClonedAsAbsolute)
 {
   ConstrHandler handler;

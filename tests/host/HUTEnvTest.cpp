@@ -33,15 +33,4 @@ TEST(HUTEnvTest, DataDirIsTheFirstCandidateHoldingThePathElseTheFirstExisting)
   }
 }
 
-TEST(HUTEnvTest, PwdFollowsTheCurrentDirectory)
-{
-  const TempDir dir;
-  const fs::path old = fs::current_path();
-  fs::current_path(dir.path());
-  const std::string pwd = HUTEnv::getPWD();
-  fs::current_path(old);
-  EXPECT_EQ(fs::canonical(pwd), fs::canonical(dir.path()));
-  EXPECT_EQ(HUTEnv::getPWD(), old.string());
-}
-
 }  // namespace

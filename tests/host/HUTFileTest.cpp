@@ -20,16 +20,6 @@ TEST(HUTFileTest, CanonicalNameIsAbsoluteNormalAndMayAliasTheInput)
   EXPECT_EQ(relative, (fs::current_path() / "rel" / "y.json").string());
 }
 
-TEST(HUTFileTest, RemoveAcceptsAMissingFile)
-{
-  const TempDir dir;
-  writeFile(dir.file("a.json"), "{}");
-  HUTFile file(dir.file("a.json"));
-  file.rm();
-  EXPECT_FALSE(file.exists());
-  EXPECT_NO_THROW(file.rm());
-}
-
 TEST(HUTFileUtilsTest, MakeRelativeRewritesOnlyWhenARelativeFormExists)
 {
   const struct {

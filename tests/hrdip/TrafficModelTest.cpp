@@ -1,7 +1,6 @@
 #include "CompRes.h"
 #include "Constraints.h"
 #include "HDGUIStatus.h"
-#include "HIPLogicalObjectNameResolverInterfaceIdentity.h"
 #include "NOCModel.h"
 #include "TrafficSpec.h"
 
@@ -127,96 +126,6 @@ TEST(TrafficModelTest, ErrorSlavesAreAddedForMemoryMappedMasters)
   EXPECT_EQ(spec.getPath(1)->slave, errorSlave);
   EXPECT_EQ(spec.getPath(2)->slave, hpSlave);
   EXPECT_TRUE(spec.getPath(2)->highPriorityRouting);
-}
-
-TEST(TrafficModelTest, AddressRangesMergeAndCompare)
-{
-  TrafficLInst a("a", Defs::AXI_MM, Defs::PL_NSU, {});
-  TrafficLInst b("b", Defs::AXI_MM, Defs::PL_NSU, {});
-  a.addSysAddress({0x1000, 0x1000});
-  a.addSysAddress({0x2000, 0x1000});
-  a.addSysAddress({0x9000, 0});
-  b.addSysAddress({0x1000, 0x2000});
-  EXPECT_EQ(a.getSysAddrSize(2), 0u);
-  EXPECT_FALSE(a.hasValidSysAddress(-1));
-  EXPECT_EQ(a.getSysAddressRanges(), b.getSysAddressRanges());
-  std::map<TrafficAddressSpace::AddressRanges, int> byRanges{{a.getSysAddressRanges(), 1}};
-  EXPECT_EQ(byRanges.count(b.getSysAddressRanges()), 1u);
-}
-
-TEST(TrafficModelTest, DeviceFindsComponentsAndLinksByName)
-{
-  DevHrdIP::NOCModel noc;
-  Component* nmu = noc.addComponent("NMU_0", Defs::PL_NMU, Component::MASTER_SIDE);
-  Component* mc = noc.addComponent("MC_0", Defs::DDRC, Component::SLAVE_SIDE);
-  Component* port = noc.addSubComponent(*mc, "MC_0_PORT1", Defs::DDRC_NSU, Component::SLAVE_SIDE);
-  EXPECT_EQ(noc.addComponent("NMU_0", Defs::NPS, Component::NO_SIDE), nullptr);
-  const DevHrdIP::Link* link = noc.addLink(*nmu, "OUT", *port, "IN");
-  EXPECT_EQ(noc.addLink(*nmu, "OUT", *port, "IN"), link);
-  EXPECT_EQ(noc.getComponent("MC_0_PORT1"), port);
-  EXPECT_EQ(noc.getComponent("nope"), nullptr);
-  EXPECT_EQ(noc.getAllTopLevelComponents(), (std::vector<Component*>{nmu, mc}));
-  EXPECT_EQ(mc->getSubComponents(), std::vector<const Component*>{port});
-  EXPECT_EQ(noc.getLinkBetween("NMU_0", "OUT", "MC_0_PORT1", "IN"), link);
-  EXPECT_EQ(noc.getLinkBetween("MC_0_PORT1", "IN", "NMU_0", "OUT"), nullptr);
-  EXPECT_EQ(noc.getLinkBetween("NMU_0", "OUTM", "C_0_PORT1", "IN"), nullptr);
-}
-
-TEST(TrafficModelTest, SolutionKeepsRoutesPlacementsAndDestIds)
-{
-  TrafficSpec spec;
-  TrafficLInst* master = spec.addLogicalInstance("m", Defs::AXI_MM, Defs::PL_NMU, {});
-  TrafficLInst* slave = spec.addLogicalInstance("s", Defs::AXI_MM, Defs::PL_NSU, {});
-  const TrafficPath* path = spec.addPath(master, slave);
-  DevHrdIP::NOCModel noc;
-  const Component* a = noc.addComponent("A", Defs::PL_NMU, Component::MASTER_SIDE);
-  const Component* b = noc.addComponent("B", Defs::PL_NMU, Component::MASTER_SIDE);
-  const DevHrdIP::Link* link = noc.addLink(*a, "p", *b, "q");
-
-  CompRes result;
-  EXPECT_FALSE(result.isLocked(path));
-  result.addRoute(path->getNet(0), {link, link}, 2, 300, false);
-  result.addRouteWithPhases(path->getNet(1), {link}, {{"P", 10}}, 1, 20, "P", true);
-  EXPECT_EQ(result.getRouteForNet(path->getNet(0))->getStructLatency(), 2u);
-  EXPECT_EQ(result.getRouteForNet(path->getNet(1))->getAchievedPhaseBW("P"), 10u);
-  EXPECT_EQ(result.getRouteForNet(path->getNet(1))->getAchievedPhaseBW("Q"), 20u);
-  EXPECT_EQ(result.getRouteForNet(path->getNet(2)), nullptr);
-  EXPECT_TRUE(result.isLocked(path));
-
-  EXPECT_FALSE(result.lockLogicalInst(master));
-  result.addPlacement(master, a);
-  result.addPlacement(master, b);  // the first placement stays
-  EXPECT_TRUE(result.lockLogicalInst(master));
-  EXPECT_EQ(result.placements.at(master), CompRes::Placement(a, true));
-  EXPECT_EQ(result.placedInstances.count(b), 0u);
-
-  result.setDestIdForComponent(a, CompRes::DestId(0x1FFF));
-  EXPECT_TRUE(result.hasDestIdForComponent(a));
-  EXPECT_EQ(result.getDestIdForComponent(a).getValue(), 0xFFF);
-  EXPECT_EQ(result.getDestIdForComponent(b).getValue(), 0);
-
-  Constraints constraints;
-  EXPECT_TRUE(constraints.addPlacementConst(slave, {b}, true));
-  EXPECT_FALSE(constraints.addPlacementConst(slave, {a}, false));
-  std::vector<const Component*> components;
-  bool isSoft = false;
-  constraints.getPlacementConst(slave, components, isSoft);
-  EXPECT_EQ(components, std::vector<const Component*>{b});
-  EXPECT_TRUE(isSoft);
-}
-
-TEST(TrafficModelTest, IdentityResolverKeepsNamesAndHasNoScope)
-{
-  const HIPLogicalObjectNameResolverInterfaceIdentity identity;
-  std::vector<std::string> names{"x"};
-  EXPECT_EQ(identity.resolveLogicalInstanceNames("a/b", names), 2u);
-  EXPECT_EQ(identity.resolveLogicalInstanceScopedNames("c", names), 3u);
-  EXPECT_EQ(names, (std::vector<std::string>{"x", "a/b", "c"}));
-  EXPECT_EQ(identity.resolveLogicalInstancePropertyValuedScoped("p"), "p");
-  EXPECT_TRUE(identity.isPropertyValueWithinScope("anything"));
-  std::string scope = "kept";
-  EXPECT_FALSE(identity.getScopeName(scope));
-  EXPECT_EQ(scope, "kept");
 }
 
 }  // namespace

@@ -44,24 +44,6 @@ ZXLogicalConnection* connect(ZXLogicalArchModel& model, const std::string& name,
   return connection;
 }
 
-TEST(ZXLogicalPortTest, AnnotationHelpers)
-{
-  ZXLogicalPort port("p");
-  port.annotation = {"", "sw"};
-  port.sdfioName = {"a", "", "b"};
-  EXPECT_FALSE(port.matchSWAnnotation(""));
-  EXPECT_TRUE(port.matchSWAnnotation("sw"));
-  EXPECT_TRUE(port.matchSWAnnotation(std::vector<std::string>{"x", "sw"}));
-  EXPECT_FALSE(port.matchSWAnnotation(std::vector<std::string>{}));
-  EXPECT_FALSE(port.matchHWAnnotation(""));
-  port.hw_annotation = "hw";
-  EXPECT_TRUE(port.matchHWAnnotation("hw"));
-  EXPECT_EQ(port.getHWAnnotationORAnnotationFirst(), "");
-  EXPECT_EQ(port.getAnnotationsAsString(), "sw");
-  EXPECT_EQ(port.getSDFIONamesAsString(), "a;b");
-  EXPECT_EQ(port.getSDFIONameFirst(), "a");
-}
-
 TEST(ZXLogicalArchLInstTest, PortLookupsKeepTheirFirstAndLastMatches)
 {
   ZXLogicalArchModel model;
@@ -84,37 +66,6 @@ TEST(ZXLogicalArchLInstTest, PortLookupsKeepTheirFirstAndLastMatches)
   EXPECT_EQ(array->getLogicalPort("p_r"), second);
   EXPECT_EQ(array->getLogicalPort("q_r_r"), other);
   EXPECT_EQ(first->owner, array);
-}
-
-// Renames the ports of a connection from the connection's side.
-class ConnectionPortsRenamer : public SuffixRenamer {
-public:
-  std::string rename(ZXLogicalConnection* connection) override
-  {
-    connection->srcPort->name += "_c";
-    for (ZXLogicalPort* port : connection->dstPorts)
-      port->name += "_c";
-    return connection->name;
-  }
-};
-
-TEST(ZXLogicalArchLInstTest, PortLookupByNameFollowsARenameThroughTheConnection)
-{
-  ZXLogicalArchModel model;
-  ZXLogicalZXIPInstance* array = model.addZXIPInstance("array");
-  ZXLogicalPLIPInstance* kernel = model.addPLIPInstance("k");
-  ZXLogicalPort* source = array->addPort("s");
-  ZXLogicalPort* sink = model.addPLPort("d", kernel);
-  ZXLogicalConnection* connection = connect(model, "c", source, {sink});
-  EXPECT_EQ(array->getLogicalPortByName("s"), source);
-  EXPECT_EQ(kernel->getLogicalPortByName("d"), sink);
-
-  ConnectionPortsRenamer renamer;
-  connection->rename(renamer);
-  EXPECT_EQ(array->getLogicalPortByName("s_c"), source);
-  EXPECT_EQ(array->getLogicalPortByName("s"), nullptr);
-  EXPECT_EQ(kernel->getLogicalPortByName("d_c"), sink);
-  EXPECT_EQ(model.getLogicalPortByName("d_c", PL_INSTANCE), sink);
 }
 
 TEST(ZXLogicalArchLInstTest, AnnotationSearchesTrySoftwareFirstAndTheSmallestAnnotation)
@@ -160,34 +111,6 @@ TEST(ZXLogicalArchModelTest, AddsRefuseKnownNamesButConnectionsWaitForARename)
   EXPECT_TRUE(model.isEmpty());
   EXPECT_EQ(model.getAppId(), "app");
   EXPECT_FALSE(model.hasLogicalInstance("a"));
-}
-
-TEST(ZXLogicalArchModelTest, KindQueriesAppendInOrderOfAddition)
-{
-  ZXLogicalArchModel model;
-  ZXLogicalZXIPInstance* a1 = model.addZXIPInstance("a1");
-  ZXLogicalNOCIPInstance* noc = model.addNOCIPInstance("noc");
-  ZXLogicalZXIPInstance* a2 = model.addZXIPInstance("a2");
-  ZXLogicalPort* nocPort = model.addNOCPort("p", noc);
-  ZXLogicalPort* p2 = model.addShimPort("p", a2);
-  ZXLogicalPort* p1 = model.addShimPort("p", a1);
-
-  std::vector<ZXLogicalZXIPInstance*> arrays;
-  EXPECT_EQ(model.getZXIPInstances(arrays), 2u);
-  EXPECT_EQ(arrays, (std::vector<ZXLogicalZXIPInstance*>{a1, a2}));
-  std::vector<ZXLogicalPort*> ports;
-  model.getZXIPLogicalPorts(ports);
-  EXPECT_EQ(model.getZXIPLogicalPorts(ports), 4u);
-  EXPECT_EQ(ports, (std::vector<ZXLogicalPort*>{p1, p2, p1, p2}));
-  EXPECT_EQ(model.getLogicalPortByName("p", ZX_INSTANCE), p1);
-  EXPECT_EQ(model.getLogicalPortByName("p", NOC_INSTANCE), nocPort);
-  EXPECT_EQ(model.getLogicalPortByName("p", PL_INSTANCE), nullptr);
-  p2->annotation = {"s"};
-  nocPort->annotation = {"s"};
-  EXPECT_EQ(model.getLogicalPortBySWOrHWAnnotation("s", ZX_INSTANCE), p2);
-  EXPECT_EQ(model.getEquivalentPortBySWOrHWAnnotation(nocPort, ZX_INSTANCE), p2);
-  EXPECT_TRUE(model.isNOCIPInstance(noc));
-  EXPECT_FALSE(model.isZXIPInstance(nullptr));
 }
 
 TEST(ZXLogicalArchModelTest, AcceptReachesPortsOnlyThroughConnections)

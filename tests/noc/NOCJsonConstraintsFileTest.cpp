@@ -96,15 +96,6 @@ protected:
   HDGUIStatus status;
 };
 
-TEST_F(NOCJsonConstraintsFileTest, FindsMastersThenSlavesThenTheOthers)
-{
-  EXPECT_EQ(NOC::findLogicalInstance(spec, "top/m"), master);
-  EXPECT_EQ(NOC::findLogicalInstance(spec, "top/s"), slave);
-  EXPECT_EQ(NOC::findLogicalInstance(spec, "top/o"), other);
-  EXPECT_EQ(NOC::findLogicalInstance(spec, "top/x"), nullptr);
-  EXPECT_EQ(NOC::findLogicalInstance(spec, ""), nullptr);
-}
-
 TEST_F(NOCJsonConstraintsFileTest, UnknownNamesAreDroppedWithoutAWord)
 {
   std::vector<double> progress;

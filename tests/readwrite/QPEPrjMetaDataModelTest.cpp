@@ -38,12 +38,6 @@ TEST(QPEPrjMetaDataModelTest, WritesEveryTypeInKeyOrderWithExactBytesAndReadsThe
   EXPECT_EQ(written(QPEPrjMetaDataModel()), "{\n  \"MetaData\": []\n}");
 }
 
-TEST(QPEPrjMetaDataModelTest, BundledExampleRoundTripsByteForByte)
-{
-  const std::string example = readFile(IPCONFIG_RW_EXAMPLES_DIR "/metadata.json");
-  EXPECT_EQ(written(readText(example)), example);
-}
-
 TEST(QPEPrjMetaDataModelTest, GettersSeeOnlyTheHeldType)
 {
   QPEPrjMetaDataModel model;

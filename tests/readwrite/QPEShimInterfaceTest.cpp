@@ -1,30 +1,14 @@
-#include "TestSupport.h"
+#include "ShimHandOffSupport.h"
 
-#include "HDARPartReader.h"
 #include "QPEHDDMDeviceUtils.h"
 #include "QPEShimInterfaceConstraints.h"
-#include "QPEShimInterfaceSolution.h"
-#include "TrafficSpec.h"
 
 #include <map>
-#include <set>
 
 namespace {
 
-using namespace IPConfig::Frameworks;
+using namespace shim_support;
 using HrdIPToolCntr::TrafficLInst;
-namespace Defs = DevHrdIP::Definitions;
-
-const HDARPart& demo()
-{
-  static const std::unique_ptr<HDARPart> part = HDARPartReader::readByName("qpe_demo");
-  return *part;
-}
-
-HDDMBel bel(const std::string& hierarchicalName)
-{
-  return demo().getOracle().getBelByName(hierarchicalName);
-}
 
 // Flat names as the files hold them, and what the device makes of them.
 struct NameCase {
@@ -92,6 +76,9 @@ protected:
                            std::vector<std::vector<std::string>>{});
     for (const TrafficLInst& instance : storage)
       instances.push_back(&instance);
+    a = instances[0];
+    b = instances[1];
+    c = instances[2];
   }
 
   // The names of instances, in the order given.
@@ -106,6 +93,9 @@ protected:
   HrdIPToolCntr::TrafficSpec spec;
   std::vector<TrafficLInst> storage;
   std::vector<const TrafficLInst*> instances;
+  const TrafficLInst* a = nullptr;
+  const TrafficLInst* b = nullptr;
+  const TrafficLInst* c = nullptr;
   const HDDMBel bel0 = bel("QPE_SHIM_X0Y0/S_AXIS0");
   const HDDMBel bel1 = bel("QPE_SHIM_X1Y0/S_AXIS1");
   const HDDMBel bel2 = bel("QPE_ML_SHIM_X4Y0/M_AXIS0");
@@ -125,7 +115,6 @@ protected:
 
 TEST_F(QPEShimInterfaceConstraintsTest, AddKeepsTheFirstPlacementAndGetLeavesAbsentOnesAlone)
 {
-  const TrafficLInst* a = instances[0];
   EXPECT_TRUE(constraints.empty());
   EXPECT_TRUE(constraints.addPlacementConst(a, {bel0, bel1}, true));
   EXPECT_FALSE(constraints.addPlacementConst(a, {bel2}, false));
@@ -137,7 +126,7 @@ TEST_F(QPEShimInterfaceConstraintsTest, AddKeepsTheFirstPlacementAndGetLeavesAbs
 
   bels = {bel2};
   flag = false;
-  constraints.getPlacementConst(instances[1], bels, flag);
+  constraints.getPlacementConst(b, bels, flag);
   EXPECT_EQ(bels, std::vector<HDDMBel>{bel2});
   EXPECT_FALSE(flag);
 
@@ -151,13 +140,11 @@ TEST_F(QPEShimInterfaceConstraintsTest, AddKeepsTheFirstPlacementAndGetLeavesAbs
 
 TEST_F(QPEShimInterfaceConstraintsTest, ABelStaysTakenUntilItsLastPlacementGoes)
 {
-  const TrafficLInst* a = instances[0];
-  const TrafficLInst* b = instances[1];
   constraints.addPlacementConst(a, {bel0, bel0}, false);
   constraints.addPlacementConst(b, {bel0, bel1}, false);
   constraints.removePlacementConst(a);
   EXPECT_TRUE(constraints.hasLogical(bel0));
-  constraints.removePlacementConst(std::vector<const TrafficLInst*>{b, instances[2]});
+  constraints.removePlacementConst(std::vector<const TrafficLInst*>{b, c});
   EXPECT_FALSE(constraints.hasLogical(bel0));
   EXPECT_FALSE(constraints.hasLogical(bel1));
   EXPECT_TRUE(constraints.empty());
@@ -165,9 +152,6 @@ TEST_F(QPEShimInterfaceConstraintsTest, ABelStaysTakenUntilItsLastPlacementGoes)
 
 TEST_F(QPEShimInterfaceConstraintsTest, MoveHandsThePlacementOnUnlessTheTargetHasOne)
 {
-  const TrafficLInst* a = instances[0];
-  const TrafficLInst* b = instances[1];
-  const TrafficLInst* c = instances[2];
   constraints.addPlacementConst(a, {bel0}, true);
   constraints.addPlacementConst(c, {bel2}, false);
 
@@ -192,16 +176,16 @@ TEST_F(QPEShimInterfaceConstraintsTest, MoveHandsThePlacementOnUnlessTheTargetHa
 TEST_F(QPEShimInterfaceConstraintsTest, CopyStopsAtTheFirstInstanceAlreadyHere)
 {
   QPEShimInterfaceConstraints other(demo(), {});
-  other.addPlacementConst(instances[0], {bel0}, true);
-  other.addPlacementConst(instances[1], {bel1}, false);
-  other.addPlacementConst(instances[2], {bel2}, false);
-  constraints.addPlacementConst(instances[1], {bel2}, true);
+  other.addPlacementConst(a, {bel0}, true);
+  other.addPlacementConst(b, {bel1}, false);
+  other.addPlacementConst(c, {bel2}, false);
+  constraints.addPlacementConst(b, {bel2}, true);
 
   EXPECT_FALSE(constraints.copyFrom(other));
   EXPECT_EQ(constrained(), (std::vector<std::string>{"a", "b"})) << "a added, c never reached";
   std::vector<HDDMBel> bels;
   bool flag = false;
-  constraints.getPlacementConst(instances[1], bels, flag);
+  constraints.getPlacementConst(b, bels, flag);
   EXPECT_EQ(bels, std::vector<HDDMBel>{bel2});
 
   QPEShimInterfaceConstraints fresh(demo(), {});
@@ -261,9 +245,6 @@ protected:
 
 TEST_F(QPEShimInterfaceSolutionTest, ReplaceHandsTheBelOnWithTheLockInverted)
 {
-  const TrafficLInst* a = instances[0];
-  const TrafficLInst* b = instances[1];
-  const TrafficLInst* c = instances[2];
   place(solution, a, bel0, false);
   place(solution, c, bel2, true);
 
@@ -288,9 +269,6 @@ TEST_F(QPEShimInterfaceSolutionTest, ReplaceHandsTheBelOnWithTheLockInverted)
 
 TEST_F(QPEShimInterfaceSolutionTest, LocksAndRemovals)
 {
-  const TrafficLInst* a = instances[0];
-  const TrafficLInst* b = instances[1];
-  const TrafficLInst* c = instances[2];
   EXPECT_TRUE(solution.empty());
   EXPECT_FALSE(solution.lockLogicalInst(a));
   place(solution, a, bel0, false);
@@ -318,9 +296,6 @@ TEST_F(QPEShimInterfaceSolutionTest, LocksAndRemovals)
 
 TEST_F(QPEShimInterfaceSolutionTest, CopyTakesValidPlacementsUnlockedThenRelocks)
 {
-  const TrafficLInst* a = instances[0];
-  const TrafficLInst* b = instances[1];
-  const TrafficLInst* c = instances[2];
   place(solution, c, bel2, true);  // replaced by the copy
   QPEShimInterfaceSolution other(demo());
   place(other, nullptr, bel1, true);
