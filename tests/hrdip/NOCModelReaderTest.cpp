@@ -53,6 +53,10 @@ TEST_F(NOCModelReaderTest, ComponentsPortsAndLinks)
   EXPECT_EQ(link->getFirstComponent(), s);
   EXPECT_EQ(link->getSecondPort(), "IN");
   EXPECT_EQ(model.getLinkBetween("P1", "IN", "S", "OUT"), nullptr) << "one direction only";
+  EXPECT_EQ(model.getLinkBetween("S", "OUTP", "1", "IN"), nullptr) << "names are not run together";
+  EXPECT_EQ(model.addLink(*model.getComponent("N"), "OUT", *model.getComponent("S"), "IN"),
+            model.getLinkBetween("N", "OUT", "S", "IN"))
+      << "a link added again is the one there";
   expectSent({});
 }
 

@@ -74,11 +74,9 @@ protected:
     for (const char* name : {"a", "b", "c"})
       storage.emplace_back(name, Defs::AXI_STRM, Defs::COMP_TYPE_UNKNOWN,
                            std::vector<std::vector<std::string>>{});
-    for (const TrafficLInst& instance : storage)
-      instances.push_back(&instance);
-    a = instances[0];
-    b = instances[1];
-    c = instances[2];
+    a = &storage[0];
+    b = &storage[1];
+    c = &storage[2];
   }
 
   // The names of instances, in the order given.
@@ -92,7 +90,6 @@ protected:
 
   HrdIPToolCntr::TrafficSpec spec;
   std::vector<TrafficLInst> storage;
-  std::vector<const TrafficLInst*> instances;
   const TrafficLInst* a = nullptr;
   const TrafficLInst* b = nullptr;
   const TrafficLInst* c = nullptr;
