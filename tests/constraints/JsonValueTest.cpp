@@ -10,23 +10,15 @@
 #include <boost/algorithm/string/replace.hpp>
 
 #include <climits>
-#include <memory>
 
 namespace {
 
 using namespace qpe::constraints;
 using namespace qpe::constraints::json;
 using testing_support::MessageLogTest;
+using testing_support::parseJson;
 
 constexpr auto critical = ComMsgMgr::CriticalWarning;
-
-std::unique_ptr<JDocument> parsed(const char* text)
-{
-  auto doc = std::make_unique<JDocument>();
-  doc->Parse(text);
-  EXPECT_FALSE(doc->HasParseError()) << text;
-  return doc;
-}
 
 // "x,y" and ",name" when there is a name.
 std::string fields(const ComplexPair& pair)
@@ -119,38 +111,38 @@ TEST_F(JsonTextTest, LocationValuesParseTheNewAndTheOldSyntax)
       {"[3, 4, 5]", "-"}, {"[true, [3, 4]]", "-"}, {R"("")", "-"}, {R"(":5")", "-"},
       {"1.5", "-"}, {"{}", "-"}, {"null", "-"}};
   for (const auto& c : cases) {
-    const auto doc = parsed(c.json);
+    const JDocument doc = parseJson(c.json);
     const auto as = [&](const char* kind) {
       return boost::replace_all_copy(c.memOrShim, "tile=", std::string(kind) + "=");
     };
-    EXPECT_EQ(parsedLocation<JTileValue>(*doc), c.tile) << c.json;
-    EXPECT_EQ(parsedLocation<JMemValue>(*doc), as("mem")) << c.json;
-    EXPECT_EQ(parsedLocation<JShimValue>(*doc), as("shim")) << c.json;
+    EXPECT_EQ(parsedLocation<JTileValue>(doc), c.tile) << c.json;
+    EXPECT_EQ(parsedLocation<JMemValue>(doc), as("mem")) << c.json;
+    EXPECT_EQ(parsedLocation<JShimValue>(doc), as("shim")) << c.json;
   }
 }
 
 TEST(JsonViewTest, ListsAndSourceLocations)
 {
-  const auto doc = parsed(R"({
+  const JDocument doc = parseJson(R"({
     "list": ["a", 3, {"b": {"issoft": true}}, {"c": true}, {"d": {"issoft": 1}},
              {"e": {}, "f": 2}, {"x": {"issoft": true}, "y": false}, {"": true}, ""],
     "names": ["a", "", 3, "b"],
     "src": {"file": "f.cc", "line": 7, "column": -1},
     "lineOnly": {"line": 7}})");
   using Entry = std::pair<std::string, ConstrProperties>;
-  EXPECT_EQ(readObjectArrayWithProperties((*doc)["list"]),
+  EXPECT_EQ(readObjectArrayWithProperties(doc["list"]),
             (std::vector<Entry>{{"a", {false}}, {"b", {true}}, {"c", {true}}, {"d", {false}},
                                 {"e", {false}}, {"y", {false}}}));
-  EXPECT_TRUE(readObjectArrayWithProperties(*doc).empty());
-  EXPECT_EQ(readStringArrayValue(*doc, "names"), (std::vector<std::string>{"a", "b"}));
-  EXPECT_TRUE(readStringArrayValue(*doc, "src").empty());
+  EXPECT_TRUE(readObjectArrayWithProperties(doc).empty());
+  EXPECT_EQ(readStringArrayValue(doc, "names"), (std::vector<std::string>{"a", "b"}));
+  EXPECT_TRUE(readStringArrayValue(doc, "src").empty());
 
   std::string file = "old";
   std::uint32_t line = 1;
   std::uint32_t column = 2;
-  EXPECT_FALSE(readSrcInfo((*doc)["lineOnly"], file, line, column));
+  EXPECT_FALSE(readSrcInfo(doc["lineOnly"], file, line, column));
   EXPECT_EQ(file + std::to_string(line) + std::to_string(column), "old12");
-  EXPECT_TRUE(readSrcInfo((*doc)["src"], file, line, column));
+  EXPECT_TRUE(readSrcInfo(doc["src"], file, line, column));
   EXPECT_EQ(file + std::to_string(line) + std::to_string(column), "f.cc70");
 }
 
