@@ -10,7 +10,8 @@ cd "$(dirname "$0")/.."
 seconds=${1:-30}
 shift || true
 formats=("$@")
-[ ${#formats[@]} -gt 0 ] || formats=(constraints logicalarch metadata traffic)
+[ ${#formats[@]} -gt 0 ] ||
+  formats=(constraints logicalarch metadata traffic nocconstraints solution compilersolution)
 
 build=build-fuzz
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
@@ -24,6 +25,9 @@ declare -A seeds=(
   [logicalarch]="examples/logical_arch.json tests/data/logical_arch_*.json"
   [metadata]="examples/metadata.json tests/data/metadata_*.json"
   [traffic]="examples/traffic.json examples/traffic.json.gz"
+  [nocconstraints]="examples/noc_constraints.json"
+  [solution]="examples/solution.json examples/solution_written.json"
+  [compilersolution]="examples/compiler_solution.json"
 )
 
 export UBSAN_OPTIONS="suppressions=$PWD/tests/fuzz/ubsan.supp:halt_on_error=1:print_stacktrace=1"

@@ -1,95 +1,20 @@
 #include "Format.h"
 
 #include "Constraints.h"
-#include "HCRapidJsonParser.h"
-#include "HCRapidJsonReadWriteUtils.h"
 #include "HDGUIStatus.h"
-#include "HIPDevice.h"
 #include "HUTFile.h"
-#include "NOCFindLogicalInstance.h"
 #include "NOCJsonConstraintsReader.h"
 #include "NOCJsonConstraintsWriter.h"
-#include "NOCJsonTrafficSpecReader.h"
-#include "NOCModel.h"
-#include "NOCModelReader.h"
-#include "TrafficSpec.h"
+#include "NocConstraintsDesign.h"
 
-#include <fstream>
 #include <ostream>
-#include <utility>
 
 namespace ipconfig_rw {
 
 namespace {
 
-using Json = HCRapidJsonReadWriteUtils;
-namespace Defs = DevHrdIP::Definitions;
-
-// The names a NoC constraints file holds, in file order. A file that is no
-// JSON holds none, and the reader reports it.
-struct FileNames {
-  std::vector<std::string> instances;
-  std::vector<std::string> components;
-
-  explicit FileNames(const std::string& path)
-  {
-    std::ifstream in(path, std::ios_base::binary);
-    JDocument document;
-    std::string problem;
-    if (HCRapidJsonParser::parse(in, document, problem) != HCRapidJsonParser::Result::parsed ||
-        !Json::IsArrayProperty(document, "Placement"))
-      return;
-    for (const JValue& element : document["Placement"].GetArray()) {
-      instances.push_back(Json::GetStringProperty(element, "LogicalInstance"));
-      for (std::string& name : Json::GetStringArrayProperty(element, "PhysicalInstance"))
-        components.push_back(std::move(name));
-    }
-  }
-};
-
-// The design a file is read against. With a traffic file: its logical
-// instances on the shipped NoC device it names, so that the names the reader
-// drops without a word can be counted. Without one, every name the file holds
-// is taken as present, so that a check reads the whole file and a round trip
-// keeps it.
-class Design {
-public:
-  Design(const FileNames& names, const std::string& trafficPath)
-  {
-    if (trafficPath.empty()) {
-      for (const std::string& name : names.instances)
-        spec.addLogicalInstance(name, Defs::AXI_MM, Defs::COMP_TYPE_UNKNOWN, {});
-      for (const std::string& name : names.components)
-        model.addComponent(name, Defs::COMP_TYPE_UNKNOWN, DevHrdIP::Component::NO_SIDE);
-      return;
-    }
-    HDGUIStatus status;
-    NOC::NOCJsonTrafficSpecReader().readFromJsonFile(trafficPath, spec, status);
-    DevHrdIP::NOCModelReader::read(DevHrdIP::NOCModelReader::getDeviceFile(spec.deviceName),
-                                   model);
-  }
-
-  // ", not in the design: N instances, M components" when names were dropped.
-  std::string missing(const FileNames& names) const
-  {
-    std::size_t instances = 0;
-    for (const std::string& name : names.instances)
-      instances += NOC::findLogicalInstance(spec, name) ? 0 : 1;
-    std::size_t components = 0;
-    for (const std::string& name : names.components)
-      components += model.getComponent(name) ? 0 : 1;
-    if (instances == 0 && components == 0)
-      return {};
-    return "; not in the design: " + std::to_string(instances) + " instances, " +
-           std::to_string(components) + " components";
-  }
-
-  HrdIPToolCntr::TrafficSpec spec;
-  DevHrdIP::NOCModel model;
-  DevHrdIP::HIPDevice device{&model};
-};
-
-void read(const std::string& path, const Design& design, HrdIPToolCntr::Constraints& constraints)
+void read(const std::string& path, const NocConstraintsDesign& design,
+          HrdIPToolCntr::Constraints& constraints)
 {
   HDGUIStatus status;
   NOC::NOCJsonConstraintsReader().readFromJsonFile(path, design.device, design.spec, constraints,
@@ -116,8 +41,8 @@ void printSummary(const HrdIPToolCntr::Constraints& constraints, std::ostream& o
 // Arguments: FILE, then the value of --traffic.
 int check(const std::vector<std::string>& args, std::ostream& out)
 {
-  const FileNames names(args[0]);
-  const Design design(names, args[1]);
+  const NocConstraintsDesign::FileNames names(args[0]);
+  const NocConstraintsDesign design(names, args[1]);
   HrdIPToolCntr::Constraints constraints;
   read(args[0], design, constraints);
   out << "nocconstraints " << args[0] << ": ";
@@ -129,8 +54,8 @@ int check(const std::vector<std::string>& args, std::ostream& out)
 // Arguments: IN OUT, then the value of --traffic.
 int roundtrip(const std::vector<std::string>& args, std::ostream& out)
 {
-  const FileNames names(args[0]);
-  const Design design(names, args[2]);
+  const NocConstraintsDesign::FileNames names(args[0]);
+  const NocConstraintsDesign design(names, args[2]);
   HrdIPToolCntr::Constraints constraints;
   read(args[0], design, constraints);
   HDGUIStatus status;
