@@ -111,5 +111,8 @@ drawing() {
 drawing array_placement.json --device qpe_demo
 cmp "$examples/array_placement.svg" "$pictures/array_placement.svg"
 drawing placement.json
+# Ties: a colocation of two pinned nodes, a node put by its offset.
+drawing colocation.json
+drawing every_kind.json
 drawing area_groups.json
 echo "Pictures of the examples: $pictures"

@@ -56,15 +56,9 @@ const char* const smallStore = R"j({
   }
 })j";
 
-// Worked out from the layout: rows of 8 + 14 * (1 + 1) = 36 pixels from y 64,
-// the shim row at 64 + 2 * 36 + 8 = 144 and 12 + 12 + 14 * 2 = 52 high, slots
-// (220 - 8) / 2 = 106 wide, the legend at 144 + 52 + 32 = 228, the groups at
-// 228 + 8 * 18 + 8 = 380, the list of the rest at 380 + 14 + 18 + 8 = 420,
-// and a height of 420 + 16 + 2 * 14 = 464.
-const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
-<svg xmlns="http://www.w3.org/2000/svg" width="560" height="464" viewBox="0 0 560 464" font-family="sans-serif" font-size="11">
-<title>demo &amp; &apos;test&apos;</title>
-<style>
+// The style sheet and the legend of every picture, which both pictures below
+// place at the same height: the legend at 228, a line each 18 pixels.
+const std::string pictureStyle = R"j(<style>
 .cell{fill:#ffffff;stroke:#b0b0b0}
 .core{fill:#cfe2ff}
 .mem{fill:#d4f0c8}
@@ -75,12 +69,49 @@ const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
 .taken{fill:#7d4fa8}
 .group{fill-opacity:0.15;stroke-width:2}
 .soft{stroke-dasharray:6 4}
+.tie{stroke-width:2;stroke-linecap:round}
+.colocated{stroke:#c2185b}
+.relative{stroke:#00796b;stroke-dasharray:2 4}
 .pin{font-weight:bold}
 .place{font-style:italic;fill:#404040}
 .axis{fill:#606060}
 .heading{font-size:16px;font-weight:bold}
 </style>
-<rect fill="#ffffff" width="560" height="464"/>
+)j";
+
+const std::string pictureLegend = R"j(<g id="legend">
+<rect class="cell core" x="16" y="228" width="24" height="12"/>
+<text class="axis" x="48" y="238">core tile, with the nodes pinned to it</text>
+<rect class="cell mem" x="16" y="246" width="24" height="12"/>
+<text class="axis" x="48" y="256">memory tile, with the nodes pinned to it</text>
+<rect class="cell shimtile" x="16" y="264" width="24" height="12"/>
+<text class="axis" x="48" y="274">tile pinned with the shim type</text>
+<rect class="cell other" x="16" y="282" width="24" height="12"/>
+<text class="axis" x="48" y="292">tile pinned with an unknown type</text>
+<rect class="cell" x="16" y="300" width="24" height="12"/>
+<text class="axis" x="48" y="310">memory and buffer placements, in italics: owner, role, bank, @offset</text>
+<rect class="slot taken" x="16" y="318" width="24" height="12"/>
+<text class="axis" x="48" y="328">shim channel taken, its node named in the column</text>
+<rect class="group" fill="#606060" stroke="#606060" x="16" y="336" width="24" height="12"/>
+<text class="axis" x="48" y="346">area group, hard: solid outline</text>
+<rect class="group soft" fill="#606060" stroke="#606060" x="16" y="354" width="24" height="12"/>
+<text class="axis" x="48" y="364">area group, soft: dashed outline</text>
+<line class="tie colocated" x1="16" y1="378" x2="40" y2="378"/>
+<text class="axis" x="48" y="382">colocated nodes, pinned to different tiles</text>
+<line class="tie relative" x1="16" y1="396" x2="40" y2="396"/>
+<text class="axis" x="48" y="400">relative placement, from a pinned node to where the other is pinned or put</text>
+</g>
+)j";
+
+// Worked out from the layout: rows of 8 + 14 * (1 + 1) = 36 pixels from y 64,
+// the shim row at 64 + 2 * 36 + 8 = 144 and 12 + 12 + 14 * 2 = 52 high, slots
+// (220 - 8) / 2 = 106 wide, the legend at 144 + 52 + 32 = 228, the groups at
+// 228 + 10 * 18 + 8 = 416, the list of the rest at 416 + 14 + 18 + 8 = 456,
+// and a height of 456 + 16 + 2 * 14 = 500.
+const std::string smallPicture = std::string(R"j(<?xml version="1.0" encoding="UTF-8"?>
+<svg xmlns="http://www.w3.org/2000/svg" width="560" height="500" viewBox="0 0 560 500" font-family="sans-serif" font-size="11">
+<title>demo &amp; &apos;test&apos;</title>
+)j") + pictureStyle + R"j(<rect fill="#ffffff" width="560" height="500"/>
 <text class="heading" x="16" y="30">demo &amp; &apos;test&apos;</text>
 <text class="axis" x="16" y="48">2 columns, 2 rows, 2 channels per shim column</text>
 <g id="tiles">
@@ -106,6 +137,8 @@ const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
 <rect class="group soft" fill="#d62728" stroke="#d62728" x="67" y="103" width="434" height="30"/>
 <text class="pin" fill="#d62728" text-anchor="start" x="71" y="128">g&apos;1</text>
 </g>
+<g id="ties">
+</g>
 <g id="tileTexts">
 <text class="place" x="70" y="78">a&lt;b: mem ping bank 2 @64</text>
 <text class="pin" x="290" y="78">a&lt;b</text>
@@ -113,32 +146,14 @@ const char* const smallPicture = R"j(<?xml version="1.0" encoding="UTF-8"?>
 <g id="shimTexts">
 <text class="pin" x="70" y="176">ch 1: io</text>
 </g>
-<g id="legend">
-<rect class="cell core" x="16" y="228" width="24" height="12"/>
-<text class="axis" x="48" y="238">core tile, with the nodes pinned to it</text>
-<rect class="cell mem" x="16" y="246" width="24" height="12"/>
-<text class="axis" x="48" y="256">memory tile, with the nodes pinned to it</text>
-<rect class="cell shimtile" x="16" y="264" width="24" height="12"/>
-<text class="axis" x="48" y="274">tile pinned with the shim type</text>
-<rect class="cell other" x="16" y="282" width="24" height="12"/>
-<text class="axis" x="48" y="292">tile pinned with an unknown type</text>
-<rect class="cell" x="16" y="300" width="24" height="12"/>
-<text class="axis" x="48" y="310">memory and buffer placements, in italics: owner, role, bank, @offset</text>
-<rect class="slot taken" x="16" y="318" width="24" height="12"/>
-<text class="axis" x="48" y="328">shim channel taken, its node named in the column</text>
-<rect class="group" fill="#606060" stroke="#606060" x="16" y="336" width="24" height="12"/>
-<text class="axis" x="48" y="346">area group, hard: solid outline</text>
-<rect class="group soft" fill="#606060" stroke="#606060" x="16" y="354" width="24" height="12"/>
-<text class="axis" x="48" y="364">area group, soft: dashed outline</text>
-</g>
-<g id="groupList">
-<text class="pin" x="16" y="390">Area groups:</text>
-<rect class="group soft" fill="#d62728" stroke="#d62728" x="16" y="394" width="24" height="12"/>
-<text class="axis" x="48" y="404">g&apos;1: soft; nodes a&lt;b</text>
+)j" + pictureLegend + R"j(<g id="groupList">
+<text class="pin" x="16" y="426">Area groups:</text>
+<rect class="group soft" fill="#d62728" stroke="#d62728" x="16" y="430" width="24" height="12"/>
+<text class="axis" x="48" y="440">g&apos;1: soft; nodes a&lt;b</text>
 </g>
 <g id="offGrid">
-<text class="pin" x="16" y="430">Not on the grid:</text>
-<text class="axis" x="32" y="444">n: tile t&amp;1</text>
+<text class="pin" x="16" y="466">Not on the grid:</text>
+<text class="axis" x="32" y="480">n: tile t&amp;1</text>
 </g>
 </svg>
 )j";
@@ -153,6 +168,66 @@ TEST(ConstraintsSvgWriterTest, SameStoreSameBytes)
 {
   const auto handler = readText(smallStore);
   EXPECT_EQ(drawn(*handler, "t"), drawn(*handler, "t"));
+}
+
+// One colocation of two pinned nodes and one relative placement of a node
+// that is not pinned: (X=1,Y=1) from a at (0,0) puts d at (1,1).
+const char* const tiesStore = R"j({
+  "NodeConstraints": {
+    "a": {"tile": {"column": 0, "row": 0, "tile_type": "core"},
+          "colocated_nodes": ["b&c"],
+          "relative_nodes": ["d:(X=1,Y=1)"]},
+    "b&c": {"tile": {"column": 1, "row": 0, "tile_type": "core"}}
+  }
+})j";
+
+// Rows of 36 pixels from y 64, so the centres of the tiles (0,0), (1,0) and
+// (1,1) are (64 + 110, 100 + 18) = (174, 118), (394, 118) and (394, 82). The
+// shim row at 144, 52 high, one slot of 212; the legend at 228, its two tie
+// lines at 228 + 8 * 18 = 372 and 390; a height of 228 + 10 * 18 + 16 = 424.
+const std::string tiesPicture = std::string(R"j(<?xml version="1.0" encoding="UTF-8"?>
+<svg xmlns="http://www.w3.org/2000/svg" width="560" height="424" viewBox="0 0 560 424" font-family="sans-serif" font-size="11">
+<title>ties</title>
+)j") + pictureStyle + R"j(<rect fill="#ffffff" width="560" height="424"/>
+<text class="heading" x="16" y="30">ties</text>
+<text class="axis" x="16" y="48">2 columns, 2 rows, 1 channels per shim column</text>
+<g id="tiles">
+<text class="axis" text-anchor="end" x="56" y="86">row 1</text>
+<rect class="cell" x="64" y="64" width="220" height="36"/>
+<rect class="cell" x="284" y="64" width="220" height="36"/>
+<text class="axis" text-anchor="end" x="56" y="122">row 0</text>
+<rect class="cell core" x="64" y="100" width="220" height="36"/>
+<rect class="cell core" x="284" y="100" width="220" height="36"/>
+</g>
+<g id="interface">
+<text class="axis" text-anchor="end" x="56" y="174">shim</text>
+<rect class="shim" x="64" y="144" width="220" height="52"/>
+<rect class="slot" x="68" y="148" width="211" height="12"/>
+<text class="axis" text-anchor="middle" x="174" y="212">column 0</text>
+<rect class="shim" x="284" y="144" width="220" height="52"/>
+<rect class="slot" x="288" y="148" width="211" height="12"/>
+<text class="axis" text-anchor="middle" x="394" y="212">column 1</text>
+</g>
+<g id="areaGroups">
+</g>
+<g id="ties">
+<line class="tie colocated" x1="174" y1="118" x2="394" y2="118"><title>a colocated with b&amp;c</title></line>
+<line class="tie relative" x1="174" y1="118" x2="394" y2="82"><title>d relative to a</title></line>
+</g>
+<g id="tileTexts">
+<text class="pin" x="70" y="114">a</text>
+<text class="pin" x="290" y="114">b&amp;c</text>
+<text class="place" x="290" y="78">d: relative to a</text>
+</g>
+<g id="shimTexts">
+</g>
+)j" + pictureLegend + R"j(</svg>
+)j";
+
+TEST(ConstraintsSvgWriterTest, TiesAreLinesBetweenTheCentresOfTheirTiles)
+{
+  const auto handler = readText(tiesStore);
+  EXPECT_EQ(drawn(*handler, "ties"), tiesPicture);
 }
 
 TEST(ConstraintsSvgWriterTest, EmptyStoreIsOneTileAndOneChannelWithTheLegendOnly)
@@ -279,6 +354,92 @@ TEST(ArrayPlacementsTest, CellsCollectTheirLinesInStoreOrder)
   EXPECT_EQ(shim[1].text, "any ch: c");
   EXPECT_TRUE(placements.isChannelTaken(0, 2));
   EXPECT_FALSE(placements.isChannelTaken(0, 1));
+}
+
+// Which ties a store gives, each as "kind from (column,row) - to (column,row)",
+// and what of them stays off the grid.
+struct TieCase {
+  const char* name;
+  const char* nodes;  // the members of "NodeConstraints"
+  std::vector<std::string> ties;
+  std::vector<std::string> offGrid;
+};
+
+void PrintTo(const TieCase& c, std::ostream* out)
+{
+  *out << c.name;
+}
+
+std::string tieText(const ArrayPlacements::Tie& tie)
+{
+  const auto cell = [](const ArrayPlacements::Cell& at) {
+    return "(" + std::to_string(at.first) + "," + std::to_string(at.second) + ")";
+  };
+  return std::string(tie.kind == ArrayPlacements::Colocation ? "colocation " : "relative ") +
+         tie.from + " " + cell(tie.fromCell) + " - " + tie.to + " " + cell(tie.toCell);
+}
+
+class ArrayPlacementsTiesTest : public ::testing::TestWithParam<TieCase> {};
+
+TEST_P(ArrayPlacementsTiesTest, TiesJoinTilesThatBothEndsHave)
+{
+  const TieCase& c = GetParam();
+  const auto handler = readText(std::string(R"j({"NodeConstraints": {)j") + c.nodes + "}}");
+  const ArrayPlacements placements(*handler);
+  std::vector<std::string> ties;
+  for (const ArrayPlacements::Tie& tie : placements.getTies())
+    ties.push_back(tieText(tie));
+  EXPECT_EQ(ties, c.ties);
+  EXPECT_EQ(placements.getOffGrid(), c.offGrid);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Stores, ArrayPlacementsTiesTest,
+    ::testing::Values(
+        TieCase{"colocationNamedFromBothSidesIsOneTie",
+                R"j("a": {"tile": {"column": 0, "row": 0}, "colocated_nodes": ["b"]},
+                    "b": {"tile": {"column": 2, "row": 1}, "colocated_nodes": ["a"]})j",
+                {"colocation a (0,0) - b (2,1)"}, {}},
+        TieCase{"colocationOnOneTileOrWithAFreeNodeHasNoLine",
+                R"j("a": {"tile": {"column": 1, "row": 1}, "colocated_nodes": ["b", "c"]},
+                    "b": {"tile": {"column": 1, "row": 1}},
+                    "d": {"colocated_nodes": ["a"]})j",
+                {}, {}},
+        TieCase{"notColocatedNodesAreNoTie",
+                R"j("a": {"tile": {"column": 0, "row": 0}, "not_colocated_nodes": ["b"]},
+                    "b": {"tile": {"column": 1, "row": 0}})j",
+                {}, {}},
+        TieCase{"relativeNodesGoByOffsetOrByTheirOwnPin",
+                R"j("a": {"tile": {"column": 1, "row": 1},
+                          "relative_nodes": ["p:(X=5,Y=5)", "q:(X=-1,Y=2)", "r:(X=0,Y=0)"]},
+                    "p": {"tile": {"column": 3, "row": 0}})j",
+                {"relative a (1,1) - p (3,0)", "relative a (1,1) - q (0,3)"}, {}},
+        TieCase{"relativeNodeWithAFreeAxisOrOffTheGridHasNoTie",
+                R"j("a": {"tile": {"column": 1, "row": 0},
+                          "relative_nodes": ["x:(X=1)", "y:(Y=2)", "z:(X=-2,Y=0)",
+                                             "w:(X=2147483647,Y=0)"]})j",
+                {}, {"w: relative to a (2147483648,0)", "z: relative to a (-1,0)"}},
+        TieCase{"relativeToANodeThatIsNotPinnedTiesNothing",
+                R"j("a": {"relative_nodes": ["b:(X=1,Y=1)"]},
+                    "b": {"tile": {"column": 0, "row": 0}})j",
+                {}, {}},
+        TieCase{"colocationsComeBeforeRelativePlacements",
+                R"j("a": {"tile": {"column": 0, "row": 0}, "relative_nodes": ["b:(X=1,Y=0)"]},
+                    "b": {"tile": {"column": 0, "row": 1}, "colocated_nodes": ["a"]})j",
+                {"colocation b (0,1) - a (0,0)", "relative a (0,0) - b (0,1)"}, {}}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(ArrayPlacementsTest, NodePutByAnOffsetIsNamedOnItsTile)
+{
+  const auto handler = readText(R"j({"NodeConstraints": {
+      "a": {"tile": {"column": 0, "row": 0}, "relative_nodes": ["b:(X=2,Y=3)"]}}})j");
+  const ArrayPlacements placements(*handler);
+  const ArrayPlacements::Lines& tile = placements.getTiles().at({2, 3});
+  ASSERT_EQ(tile.size(), 1u);
+  EXPECT_EQ(tile[0].kind, ArrayPlacements::RelativeNode);
+  EXPECT_EQ(tile[0].text, "b: relative to a");
+  EXPECT_EQ(placements.getColumns(), 3);
+  EXPECT_EQ(placements.getRows(), 4);
 }
 
 TEST(ArrayPlacementsTest, DeviceWidensTheGridToItsColumnsAndChannels)

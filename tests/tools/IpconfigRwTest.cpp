@@ -276,7 +276,7 @@ INSTANTIATE_TEST_SUITE_P(
                 " areaGroup(g)=(n,)(\n  low=shim=(3,-1))\n exclude=(false) isSoft=(false) "
                 "contain_routing=(false) exclusive_routing=(false) exclusive_placement=(false)\n"},
         RunCase{"colocationCheck", nullptr, "constraints check $E/colocation.json", 0,
-                "constraints $E/colocation.json: 12 constraints (2 node, 10 port, 0 net, 0 "
+                "constraints $E/colocation.json: 14 constraints (4 node, 10 port, 0 net, 0 "
                 "global), 2 FIFO records (1 DMA, 1 stream)\n"},
         RunCase{"everyKindCheck", nullptr, "constraints check $E/every_kind.json", 0,
                 "constraints $E/every_kind.json: 21 constraints (8 node, 7 port, 1 net, 5 "
@@ -330,7 +330,8 @@ TEST(IpconfigRwPictureTest, ConstraintsPicturesRenderWithRsvg)
 {
   if (runTool("--help > /dev/null && command -v rsvg-convert").exitCode != 0)
     GTEST_SKIP() << "rsvg-convert is not installed";
-  for (const char* file : {"array_placement.json", "placement.json", "area_groups.json"}) {
+  for (const char* file : {"array_placement.json", "placement.json", "area_groups.json",
+                           "colocation.json", "every_kind.json"}) {
     const TempDir dir;
     const RunResult result =
         runTool(expand(std::string("constraints draw $E/") + file + " $D/out.svg", dir) +

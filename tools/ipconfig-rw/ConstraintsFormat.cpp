@@ -150,7 +150,8 @@ Format constraintsFormat()
                areagroups},
               {"draw",
                {"FILE", "OUT.svg"},
-               "draw the placements and area groups of FILE on the array as an SVG picture",
+               "draw the placements, area groups and ties of FILE on the array as an SVG "
+               "picture",
                draw,
                {{"device", "NAME", "shipped array device whose columns and channels to show", ""}}},
           }};

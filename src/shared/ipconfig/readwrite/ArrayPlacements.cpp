@@ -3,13 +3,16 @@
 #include "Address.h"
 #include "AreaGroupConstr.h"
 #include "BufferConstr.h"
+#include "ColocatedNodesConstr.h"
 #include "ConstrCast.h"
 #include "ConstrHandler.h"
+#include "DefaultXYValues.h"
 #include "HDARPart.h"
 #include "MemConstr.h"
 #include "PhysicalRange.h"
 #include "PhysicalSpec.h"
 #include "PhysicalSpecFormatter.h"
+#include "RelativeNodesConstr.h"
 #include "ReservedMemoryConstr.h"
 #include "ShimConstr.h"
 #include "TileConstr.h"
@@ -20,7 +23,7 @@ namespace qpe::constraints {
 
 namespace {
 
-bool onGrid(int index)
+bool onGrid(long long index)
 {
   return index >= 0 && index <= ArrayPlacements::maxGridIndex;
 }
@@ -45,7 +48,7 @@ ArrayPlacements::LineKind tileKind(PhysicalSpec::PhysicalType type)
   }
 }
 
-std::string pair(int first, int second)
+std::string pair(long long first, long long second)
 {
   return "(" + std::to_string(first) + "," + std::to_string(second) + ")";
 }
@@ -63,6 +66,9 @@ std::string rangeText(const PhysicalRange& range)
 
 ArrayPlacements::ArrayPlacements(const ConstrHandler& handler, const HDARPart* device)
 {
+  // A tie needs the tiles of both its ends, which the store may pin later.
+  std::vector<const ColocatedNodesConstr*> colocations;
+  std::vector<const RelativeNodesConstr*> relatives;
   for (const BaseConstraint* constr : handler.getConstrs()) {
     if (const TileConstr* tile = ConstrCast::toTile(constr))
       addTile_(*tile);
@@ -79,7 +85,16 @@ ArrayPlacements::ArrayPlacements(const ConstrHandler& handler, const HDARPart* d
       addAddress_(reserved->getObjName(), "reserved memory", reserved->address);
     else if (const AreaGroupConstr* group = ConstrCast::toAreaGroup(constr))
       addGroup_(*group);
+    else if (const ColocatedNodesConstr* colocation = ConstrCast::toColocatedNodes(constr))
+      colocations.push_back(colocation);
+    else if (const RelativeNodesConstr* relative = ConstrCast::toRelativeNodes(constr))
+      relatives.push_back(relative);
   }
+  std::set<std::pair<std::string, std::string>> joined;
+  for (const ColocatedNodesConstr* colocation : colocations)
+    addColocationTies_(*colocation, joined);
+  for (const RelativeNodesConstr* relative : relatives)
+    addRelativeTies_(*relative);
   if (device)
     addDevice_(*device);
 }
@@ -96,6 +111,7 @@ void ArrayPlacements::addTile_(const TileConstr& tile)
     offGrid.push_back(node + ": tile " + tile.getName());
   } else if (onGrid(tile.getColumn()) && onGrid(tile.getRow())) {
     tiles[{tile.getColumn(), tile.getRow()}].push_back({tileKind(tile.getTileType()), node});
+    pinnedTiles.emplace(node, Cell{tile.getColumn(), tile.getRow()});
     reach_(tile.getColumn(), tile.getRow(), -1);
   } else if (tile.isSet() || tile.isRowSet()) {
     offGrid.push_back(node + ": tile " + pair(tile.getColumn(), tile.getRow()));
@@ -183,6 +199,64 @@ void ArrayPlacements::addGroupRange_(Group& group, const PhysicalRange& range)
     box.first = box.last = -1;
   group.boxes.push_back(box);
   reach_(box.lastColumn, onInterfaceRow ? -1 : box.last, onInterfaceRow ? box.last : -1);
+}
+
+// Nodes pinned to two tiles. A pair that both its nodes name is one tie, and
+// a pair on one tile needs no line: both names stand in it.
+void ArrayPlacements::addColocationTies_(const ColocatedNodesConstr& colocation,
+                                         std::set<std::pair<std::string, std::string>>& joined)
+{
+  const auto from = pinnedTiles.find(colocation.getObjName());
+  if (colocation.getObjType() != BaseConstraint::NODE || from == pinnedTiles.end())
+    return;
+  for (const std::string& name : colocation.getNodeNames()) {
+    const auto to = pinnedTiles.find(name);
+    if (to == pinnedTiles.end() || to->second == from->second ||
+        !joined.insert(std::minmax(from->first, to->first)).second)
+      continue;
+    ties.push_back({Colocation, from->first, name, from->second, to->second});
+  }
+}
+
+// From a pinned anchor to each of its nodes: to the node's own tile where it
+// is pinned too, else to the tile that its offset gives. An anchor that is not
+// pinned ties nothing: a picture shows the offsets that the file settles, and
+// does not follow chains of them.
+void ArrayPlacements::addRelativeTies_(const RelativeNodesConstr& relative)
+{
+  const auto anchor = pinnedTiles.find(relative.getObjName());
+  if (anchor == pinnedTiles.end())
+    return;
+  for (const auto& [name, offset] : relative.getNodesWithOffset()) {
+    const auto pinned = pinnedTiles.find(name);
+    const std::optional<Cell> to = pinned != pinnedTiles.end()
+                                       ? pinned->second
+                                       : placeByOffset_(name, *anchor, offset);
+    if (to && *to != anchor->second)
+      ties.push_back({Relative, anchor->first, name, anchor->second, *to});
+  }
+}
+
+// The tile, which then names the node; none for an offset with a free axis,
+// nor for one off the grid, which is listed as such.
+std::optional<ArrayPlacements::Cell> ArrayPlacements::placeByOffset_(
+    const std::string& node, const std::pair<const std::string, Cell>& anchor,
+    const HDPoint<int>& offset)
+{
+  if (offset.x == DefaultXYValues::XCoordinateNotSetValue ||
+      offset.y == DefaultXYValues::YCoordinateNotSetValue)
+    return std::nullopt;
+  const long long column = static_cast<long long>(anchor.second.first) + offset.x;
+  const long long row = static_cast<long long>(anchor.second.second) + offset.y;
+  const std::string text = node + ": relative to " + anchor.first;
+  if (!onGrid(column) || !onGrid(row)) {
+    offGrid.push_back(text + " " + pair(column, row));
+    return std::nullopt;
+  }
+  const Cell cell{static_cast<int>(column), static_cast<int>(row)};
+  tiles[cell].push_back({RelativeNode, text});
+  reach_(cell.first, cell.second, -1);
+  return cell;
 }
 
 void ArrayPlacements::addDevice_(const HDARPart& device)

@@ -2,11 +2,14 @@
 
 #include "AreaGroupConstr.h"
 #include "ConstrForward.h"
+#include "HDPoint.h"
 #include "ipconfig_readwrite_export.h"
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -20,7 +23,8 @@ class PhysicalSpec;
 
 // Where the constraints of a store put things on the compute array, in the
 // terms of a picture: the lines of text that each tile and each shim column
-// carries, the shim channels taken, the rectangles of the area groups, and,
+// carries, the shim channels taken, the rectangles of the area groups, the
+// ties of colocated and relatively placed nodes between tiles, and,
 // for what has no place on the grid (a location by name, a row or channel
 // left out, a negative or far-off coordinate), a line of its own. The grid
 // starts at column 0 and row 0; its extent is what the constraints reach,
@@ -31,8 +35,9 @@ public:
   // file cannot ask for a picture of millions of tiles.
   static constexpr int maxGridIndex = 255;
 
-  // What a line of a cell tells, which decides how it is drawn.
-  enum LineKind { CoreTile, MemTile, ShimTile, OtherTile, Memory, Channel };
+  // What a line of a cell tells, which decides how it is drawn. A
+  // RelativeNode is a node that its offset from a pinned node puts there.
+  enum LineKind { CoreTile, MemTile, ShimTile, OtherTile, Memory, Channel, RelativeNode };
 
   struct Line {
     LineKind kind;
@@ -58,6 +63,16 @@ public:
     std::vector<GroupBox> boxes;
   };
 
+  enum TieKind { Colocation, Relative };
+  // Two nodes that a constraint of `from` joins, on their tiles.
+  struct Tie {
+    TieKind kind;
+    std::string from;
+    std::string to;
+    Cell fromCell;
+    Cell toCell;
+  };
+
   explicit ArrayPlacements(const ConstrHandler& handler, const HDARPart* device = nullptr);
 
   int getColumns() const { return columns; }
@@ -70,6 +85,9 @@ public:
   const std::map<int, Lines>& getShimColumns() const { return shimColumns; }
   bool isChannelTaken(int column, int channel) const;
   const std::vector<Group>& getGroups() const { return groups; }
+  // The colocations, then the relative placements, each in store order and
+  // within a constraint in the order of its names.
+  const std::vector<Tie>& getTies() const { return ties; }
   const std::vector<std::string>& getOffGrid() const { return offGrid; }
 
 private:
@@ -78,6 +96,14 @@ private:
   void addAddress_(const std::string& owner, const char* role, const Address& address);
   void addGroup_(const AreaGroupConstr& group);
   void addGroupRange_(Group& group, const PhysicalRange& range);
+  // `joined` holds the pairs tied already, the smaller name first.
+  void addColocationTies_(const ColocatedNodesConstr& colocation,
+                          std::set<std::pair<std::string, std::string>>& joined);
+  void addRelativeTies_(const RelativeNodesConstr& relative);
+  // Where `offset` from the pinned `anchor` puts `node`.
+  std::optional<Cell> placeByOffset_(const std::string& node,
+                                     const std::pair<const std::string, Cell>& anchor,
+                                     const HDPoint<int>& offset);
   void addDevice_(const HDARPart& device);
   // Widens the extent to `column`, and to `row` or `channel` when it is set.
   void reach_(int column, int row, int channel);
@@ -86,6 +112,9 @@ private:
   std::map<int, Lines> shimColumns;
   std::set<Cell> takenChannels;
   std::vector<Group> groups;
+  std::vector<Tie> ties;
+  // The tile of each node pinned on the grid, the first pin where it has more.
+  std::unordered_map<std::string, Cell> pinnedTiles;
   std::vector<std::string> offGrid;
   int columns = 1;
   int rows = 1;

@@ -40,6 +40,9 @@ const char* const style = ".cell{fill:#ffffff;stroke:#b0b0b0}\n"
                           ".taken{fill:#7d4fa8}\n"
                           ".group{fill-opacity:0.15;stroke-width:2}\n"
                           ".soft{stroke-dasharray:6 4}\n"
+                          ".tie{stroke-width:2;stroke-linecap:round}\n"
+                          ".colocated{stroke:#c2185b}\n"
+                          ".relative{stroke:#00796b;stroke-dasharray:2 4}\n"
                           ".pin{font-weight:bold}\n"
                           ".place{font-style:italic;fill:#404040}\n"
                           ".axis{fill:#606060}\n"
@@ -61,6 +64,24 @@ const std::array<LegendEntry, 8> legend{{
     {"class=\"group soft\" fill=\"#606060\" stroke=\"#606060\"",
      "area group, soft: dashed outline"},
 }};
+// The ties, a stroke and its text per line, below the swatches.
+const std::array<LegendEntry, 2> tieLegend{{
+    {"class=\"tie colocated\"", "colocated nodes, pinned to different tiles"},
+    {"class=\"tie relative\"",
+     "relative placement, from a pinned node to where the other is pinned or put"},
+}};
+
+const char* tieClass(ArrayPlacements::TieKind kind)
+{
+  return kind == ArrayPlacements::Colocation ? "class=\"tie colocated\"" : "class=\"tie relative\"";
+}
+
+// "a colocated with b", "b relative to a", for the line's title.
+std::string tieTitle(const ArrayPlacements::Tie& tie)
+{
+  return tie.kind == ArrayPlacements::Colocation ? tie.from + " colocated with " + tie.to
+                                                 : tie.to + " relative to " + tie.from;
+}
 
 // "name: hard, exclude, contain routing; nodes a, b, c and 2 more".
 std::string describe(const ArrayPlacements::Group& group)
@@ -119,6 +140,17 @@ void writeRect(std::ostream& out, const char* attributes, int x, int y, int widt
       << "\" height=\"" << height << "\"/>\n";
 }
 
+void writeLine(std::ostream& out, const char* attributes, int x1, int y1, int x2, int y2,
+               const std::string& title)
+{
+  out << "<line " << attributes << " x1=\"" << x1 << "\" y1=\"" << y1 << "\" x2=\"" << x2
+      << "\" y2=\"" << y2 << "\"";
+  if (title.empty())
+    out << "/>\n";
+  else
+    out << "><title>" << SvgText::escaped(title) << "</title></line>\n";
+}
+
 void writeText(std::ostream& out, const char* attributes, int x, int y, const std::string& text)
 {
   out << "<text " << attributes << " x=\"" << x << "\" y=\"" << y << "\">"
@@ -135,7 +167,7 @@ ConstraintsSvgWriter::ConstraintsSvgWriter(const ArrayPlacements& placements, st
   interfaceHeight = 12 + slotHeight + lineHeight * (mostLines(placements.getShimColumns()) + 1);
   slotWidth = std::max(1, (cellWidth - 8) / placements.getChannels());
   legendTop = interfaceTop + interfaceHeight + 32;
-  groupListTop = legendTop + static_cast<int>(legend.size()) * legendLine;
+  groupListTop = legendTop + static_cast<int>(legend.size() + tieLegend.size()) * legendLine;
   if (!placements.getGroups().empty())
     groupListTop += 8;
   offGridTop = groupListTop;
@@ -156,6 +188,7 @@ void ConstraintsSvgWriter::write(std::ostream& out) const
   writeTileGrid_(out);
   writeInterfaceRow_(out);
   writeAreaGroups_(out);
+  writeTies_(out);
   writeTileTexts_(out);
   writeShimTexts_(out);
   writeLegend_(out);
@@ -234,13 +267,24 @@ void ConstraintsSvgWriter::writeAreaGroups_(std::ostream& out) const
   out << "</g>\n";
 }
 
+void ConstraintsSvgWriter::writeTies_(std::ostream& out) const
+{
+  out << "<g id=\"ties\">\n";
+  for (const ArrayPlacements::Tie& tie : placements.getTies())
+    writeLine(out, tieClass(tie.kind), cellCentreX_(tie.fromCell), cellCentreY_(tie.fromCell),
+              cellCentreX_(tie.toCell), cellCentreY_(tie.toCell), tieTitle(tie));
+  out << "</g>\n";
+}
+
 void ConstraintsSvgWriter::writeTileTexts_(std::ostream& out) const
 {
   out << "<g id=\"tileTexts\">\n";
   for (const auto& [cell, lines] : placements.getTiles()) {
     int y = rowY_(cell.second) + 14;
     for (const ArrayPlacements::Line& line : lines) {
-      const char* kind = line.kind == ArrayPlacements::Memory ? "class=\"place\"" : "class=\"pin\"";
+      const bool placed =
+          line.kind == ArrayPlacements::Memory || line.kind == ArrayPlacements::RelativeNode;
+      const char* kind = placed ? "class=\"place\"" : "class=\"pin\"";
       writeText(out, kind, columnX_(cell.first) + 6, y, line.text);
       y += lineHeight;
     }
@@ -267,6 +311,11 @@ void ConstraintsSvgWriter::writeLegend_(std::ostream& out) const
   int y = legendTop;
   for (const LegendEntry& entry : legend) {
     writeRect(out, entry.swatch, margin, y, 24, 12);
+    writeText(out, "class=\"axis\"", margin + 32, y + 10, entry.text);
+    y += legendLine;
+  }
+  for (const LegendEntry& entry : tieLegend) {
+    writeLine(out, entry.swatch, margin, y + 6, margin + 24, y + 6, "");
     writeText(out, "class=\"axis\"", margin + 32, y + 10, entry.text);
     y += legendLine;
   }
@@ -339,6 +388,16 @@ void ConstraintsSvgWriter::writeGroupBox_(std::ostream& out, const ArrayPlacemen
       << bottom - 5 << "\">"
       << SvgText::escaped(box.memory ? group.name + " (memory)" : group.name)
       << "</text>\n";
+}
+
+int ConstraintsSvgWriter::cellCentreX_(const ArrayPlacements::Cell& cell) const
+{
+  return columnX_(cell.first) + cellWidth / 2;
+}
+
+int ConstraintsSvgWriter::cellCentreY_(const ArrayPlacements::Cell& cell) const
+{
+  return rowY_(cell.second) + tileRowHeight / 2;
 }
 
 int ConstraintsSvgWriter::columnX_(int column) const

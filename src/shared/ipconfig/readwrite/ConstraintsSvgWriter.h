@@ -13,12 +13,12 @@ namespace qpe::constraints {
 // row of shim columns beneath it with a slot per channel. Pinned tiles carry
 // their nodes, memory and buffer placements their owners; taken channels are
 // filled and named; each area-group range is a translucent rectangle in the
-// group's colour, solid for a hard group and dashed for a soft one. A legend
-// the list of the groups with their flags and nodes, and the list of what
-// has no place on the grid close the picture. All
-// coordinates are whole numbers, so the same store gives the same bytes.
-// Lines between tiles (colocation, relative placement) would be a layer of
-// their own between the groups and the texts, from the cells' centres.
+// group's colour, solid for a hard group and dashed for a soft one. Ties of
+// colocated and of relatively placed nodes are lines between the centres of
+// their tiles, over the groups and under the texts, each with a title that
+// names both ends. A legend, the list of the groups with their flags and
+// nodes, and the list of what has no place on the grid close the picture.
+// All coordinates are whole numbers, so the same store gives the same bytes.
 class IPCONFIG_READWRITE_EXPORT ConstraintsSvgWriter {
 public:
   // `title` names the picture, usually the file that filled the store.
@@ -32,6 +32,7 @@ private:
   void writeTileGrid_(std::ostream& out) const;
   void writeInterfaceRow_(std::ostream& out) const;
   void writeAreaGroups_(std::ostream& out) const;
+  void writeTies_(std::ostream& out) const;
   void writeTileTexts_(std::ostream& out) const;
   void writeShimTexts_(std::ostream& out) const;
   void writeLegend_(std::ostream& out) const;
@@ -41,6 +42,8 @@ private:
   void writeGroupBox_(std::ostream& out, const ArrayPlacements::Group& group,
                       const ArrayPlacements::GroupBox& box, std::size_t index) const;
 
+  int cellCentreX_(const ArrayPlacements::Cell& cell) const;
+  int cellCentreY_(const ArrayPlacements::Cell& cell) const;
   int columnX_(int column) const;
   int rowY_(int row) const;
   int slotX_(int column, int channel) const;
