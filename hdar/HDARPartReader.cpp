@@ -184,18 +184,12 @@ std::unique_ptr<HDARPart> HDARPartReader::readByName(const std::string& deviceNa
 std::unique_ptr<HDARPart> HDARPartReader::read(const std::string& path)
 {
   std::string canonicalName;
-  const HUTFile file(path);
-  file.getCanonicalName(canonicalName);
-  std::ifstream in(canonicalName, std::ios_base::binary);
-  if (!file.exists() || !file.isFile() || !in.good())
-    HCRapidJsonReadWriteUtils::errorReadingJsonFile(canonicalName);
+  std::ifstream in = HCRapidJsonParser::openJsonFile(path, canonicalName);
   return read(in, canonicalName);
 }
 
 std::unique_ptr<HDARPart> HDARPartReader::read(std::istream& in, const std::string& fileName)
 {
-  if (!in.good())
-    HCRapidJsonReadWriteUtils::errorReadingJsonFile(fileName);
   JDocument document;
   HCRapidJsonParser::parseJsonFile(in, fileName, document);
   return DeviceWalk(fileName).read(document);

@@ -1,13 +1,12 @@
 #include "HCRapidJsonParser.h"
 
+#include "HUTFile.h"
 #include "isl/iostreams.h"
 
 #include <rapidjson/error/en.h>
-#include <rapidjson/istreamwrapper.h>
 #include <rapidjson/reader.h>
 
 #include <istream>
-#include <limits>
 
 namespace {
 
@@ -56,30 +55,49 @@ private:
   unsigned depth_ = 0;
 };
 
-// The generator that GenericDocument::Populate runs: one iterative parse.
+// The generator that GenericDocument::Populate runs: one iterative parse of
+// the whole text, which has a NUL byte behind its end.
 class IterativeParse {
 public:
-  explicit IterativeParse(std::istream& in) : in_(in) {}
+  explicit IterativeParse(const std::string& text) : text_(text) {}
 
   bool operator()(JDocument& document)
   {
-    rapidjson::IStreamWrapper wrapper(in_);
+    rapidjson::StringStream stream(text_.c_str());
     DepthLimitingHandler handler(document);
     rapidjson::Reader reader;
-    result_ = reader.Parse<rapidjson::kParseIterativeFlag>(wrapper, handler);
-    // The stream wrapper gives a NUL byte as the end of the text: whatever
-    // follows it is more than one root value.
-    if (!result_.IsError() && in_.peek() != std::istream::traits_type::eof())
-      result_.Set(rapidjson::kParseErrorDocumentRootNotSingular, wrapper.Tell());
+    result_ = reader.Parse<rapidjson::kParseIterativeFlag>(stream, handler);
+    // A NUL byte ends the text for the parser: whatever follows one inside
+    // the text is more than one root value.
+    if (!result_.IsError() && stream.Tell() < text_.size())
+      result_.Set(rapidjson::kParseErrorDocumentRootNotSingular, stream.Tell());
     return !result_.IsError();
   }
 
   const rapidjson::ParseResult& result() const { return result_; }
 
 private:
-  std::istream& in_;
+  const std::string& text_;
   rapidjson::ParseResult result_;
 };
+
+// Whatever `in` still holds, in large blocks rather than a character at a
+// time: a decompressing stream decompresses into the text as it goes.
+void readAll(std::istream& in, std::string& text)
+{
+  constexpr std::size_t block = std::size_t{1} << 16;
+  text.clear();
+  std::size_t size = 0;
+  for (;;) {
+    text.resize(size + block);
+    in.read(&text[size], static_cast<std::streamsize>(block));
+    const auto got = static_cast<std::size_t>(in.gcount());
+    size += got;
+    if (got < block)
+      break;
+  }
+  text.resize(size);
+}
 
 std::string describe(const rapidjson::ParseResult& result)
 {
@@ -95,23 +113,26 @@ std::string describe(const rapidjson::ParseResult& result)
 HCRapidJsonParser::Result HCRapidJsonParser::parse(std::istream& in, JDocument& document,
                                                    std::string& problem)
 {
+  std::string text;
+  return parse(in, document, problem, text);
+}
+
+HCRapidJsonParser::Result HCRapidJsonParser::parse(std::istream& in, JDocument& document,
+                                                   std::string& problem, std::string& text)
+{
   document.SetNull();
-  IterativeParse parse(in);
-  document.Populate(parse);
-  const std::string compression = isl::iostreams::compressionOf(in);
-  // Corrupt compressed data mostly reads as malformed text before the
-  // decompressor reaches its check: the rest is read to tell the two apart.
-  if (parse.result().IsError() && !compression.empty())
-    in.ignore(std::numeric_limits<std::streamsize>::max());
-  // A failed read looks like the end of the text to the parser: it is checked
-  // first, whatever the parser made of the truncated text.
+  readAll(in, text);
+  // A failed read would look like the end of the text to the parser: it is
+  // told first, whatever the text up to there holds.
   if (in.bad()) {
-    document.SetNull();
+    const std::string compression = isl::iostreams::compressionOf(in);
     if (compression.empty())
       return Result::unreadable;
     problem = "The " + compression + " compressed data is corrupt.";
     return Result::malformed;
   }
+  IterativeParse parse(text);
+  document.Populate(parse);
   if (parse.result().IsError()) {
     problem = describe(parse.result());
     return Result::malformed;
@@ -119,11 +140,30 @@ HCRapidJsonParser::Result HCRapidJsonParser::parse(std::istream& in, JDocument& 
   return Result::parsed;
 }
 
+std::ifstream HCRapidJsonParser::openJsonFile(const std::string& path, std::string& canonicalName)
+{
+  HUTFile(path).getCanonicalName(canonicalName);
+  std::ifstream in(canonicalName, std::ios_base::binary);
+  const HUTFile file(canonicalName);
+  if (!file.exists() || !file.isFile() || !in.good())
+    HCRapidJsonReadWriteUtils::errorReadingJsonFile(canonicalName);
+  return in;
+}
+
 void HCRapidJsonParser::parseJsonFile(std::istream& in, const std::string& path,
                                       JDocument& document)
 {
+  std::string text;
+  parseJsonFile(in, path, document, text);
+}
+
+void HCRapidJsonParser::parseJsonFile(std::istream& in, const std::string& path,
+                                      JDocument& document, std::string& text)
+{
+  if (!in.good())
+    HCRapidJsonReadWriteUtils::errorReadingJsonFile(path);
   std::string problem;
-  switch (parse(in, document, problem)) {
+  switch (parse(in, document, problem, text)) {
   case Result::unreadable: HCRapidJsonReadWriteUtils::errorReadingJsonFile(path);
   case Result::malformed: HCRapidJsonReadWriteUtils::errorParsingJsonFile(path, problem);
   case Result::parsed: break;

@@ -3,10 +3,15 @@
 #include "HCRapidJsonReadWriteUtils.h"
 #include "ipconfig_host_export.h"
 
+#include <fstream>
 #include <iosfwd>
 #include <string>
 
 // Parses JSON text from a stream into a document, for every reader.
+//
+// The stream is read into one buffer in large blocks, and the buffer parsed:
+// a parser that pulls its text a character at a time through a stream spends
+// most of its time there.
 //
 // The parse runs without recursion, so no input can exhaust the call stack,
 // and it refuses text nested deeper than maxDepth: no real file comes near,
@@ -26,9 +31,20 @@ public:
 
   // On anything but `parsed`, `document` is left null.
   static Result parse(std::istream& in, JDocument& document, std::string& problem);
+  // The same; `text` keeps what was read, for those who look into it again.
+  static Result parse(std::istream& in, JDocument& document, std::string& problem,
+                      std::string& text);
 
-  // The same, reported under `path` through errorReadingJsonFile or
-  // errorParsingJsonFile, and for a schema through their schema forms.
+  // Opens the canonical name of `path`, which `canonicalName` receives. A
+  // missing file, a directory or a stream that is not good is
+  // errorReadingJsonFile with that name.
+  static std::ifstream openJsonFile(const std::string& path, std::string& canonicalName);
+
+  // Refuses a stream that is not good, then parses it; failures are reported
+  // under `path` through errorReadingJsonFile or errorParsingJsonFile, and
+  // for a schema through their schema forms.
   static void parseJsonFile(std::istream& in, const std::string& path, JDocument& document);
+  static void parseJsonFile(std::istream& in, const std::string& path, JDocument& document,
+                            std::string& text);
   static void parseSchemaFile(std::istream& in, const std::string& path, JDocument& document);
 };

@@ -1,12 +1,11 @@
 #include "NOCModelReader.h"
 
+#include "HCRapidJsonParser.h"
 #include "HCRapidJsonReadWriteUtils.h"
 #include "HEXAll.h"
 #include "HUTEnv.h"
 #include "HUTFile.h"
 #include "NOCModel.h"
-
-#include <rapidjson/istreamwrapper.h>
 
 #include <fstream>
 #include <unordered_map>
@@ -134,23 +133,14 @@ private:
 void NOCModelReader::read(const std::string& path, NOCModel& model)
 {
   std::string canonicalName;
-  HUTFile(path).getCanonicalName(canonicalName);
-  const HUTFile file(canonicalName);
-  std::ifstream in(canonicalName, std::ios::binary);
-  if (!file.exists() || !file.isFile() || !in.good())
-    Json::errorReadingJsonFile(canonicalName);
+  std::ifstream in = HCRapidJsonParser::openJsonFile(path, canonicalName);
   read(in, canonicalName, model);
 }
 
 void NOCModelReader::read(std::istream& in, const std::string& fileName, NOCModel& model)
 {
-  if (!in.good())
-    Json::errorReadingJsonFile(fileName);
   JDocument document;
-  rapidjson::IStreamWrapper wrapper(in);
-  document.ParseStream(wrapper);
-  if (document.HasParseError())
-    Json::errorParsingJsonFile(fileName, Json::GetErrorMsgFromDocument(document));
+  HCRapidJsonParser::parseJsonFile(in, fileName, document);
   DescriptionWalk(fileName, model).readDevice(document);
 }
 

@@ -84,8 +84,6 @@ void JsonFileFrame::readFile(const std::string& path, const InputFileStream::Ope
 
 void JsonFileFrame::parse(std::istream& in, const std::string& fileName, JDocument& document)
 {
-  if (!in.good())
-    HCRapidJsonReadWriteUtils::errorReadingJsonFile(fileName);
   HCRapidJsonParser::parseJsonFile(in, fileName, document);
 }
 
