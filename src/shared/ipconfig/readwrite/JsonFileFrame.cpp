@@ -1,12 +1,12 @@
 #include "JsonFileFrame.h"
 
+#include "HCBufferedOStream.h"
 #include "HCRapidJsonParser.h"
 #include "HUTFile.h"
 #include "HUTFileWriteStream.h"
 #include "ForwardingHandler.h"
 #include "IPConfigMessages.h"
 
-#include <rapidjson/ostreamwrapper.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 
@@ -16,7 +16,7 @@ namespace IPConfig {
 
 namespace {
 
-using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
+using PrettyWriter = rapidjson::PrettyWriter<HCBufferedOStream>;
 
 void setIndent(PrettyWriter& writer)
 {
@@ -34,8 +34,8 @@ bool validateAndPrint(const JDocument& document, std::ostream& out, const std::s
 {
   const std::unique_ptr<JSchemaDocument> schema =
       JsonFileFrame::loadSchema(schemaPath, isl::iostreams::basic_file());
-  rapidjson::OStreamWrapper wrapper(out);
-  PrettyWriter writer(wrapper);
+  HCBufferedOStream buffered(out);
+  PrettyWriter writer(buffered);
   setIndent(writer);
   ForwardingHandler<PrettyWriter> toWriter(writer);
   PrintingValidator validator(*schema, toWriter);
@@ -152,8 +152,8 @@ bool JsonFileFrame::writeThroughSchema(const JDocument& document, std::ostream& 
 
 bool JsonFileFrame::writePretty(const JDocument& document, std::ostream& out)
 {
-  rapidjson::OStreamWrapper wrapper(out);
-  PrettyWriter writer(wrapper);
+  HCBufferedOStream buffered(out);
+  PrettyWriter writer(buffered);
   setIndent(writer);
   return document.Accept(writer);
 }

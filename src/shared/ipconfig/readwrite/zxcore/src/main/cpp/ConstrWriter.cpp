@@ -4,12 +4,12 @@
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
 #include "ForwardingHandler.h"
+#include "HCBufferedOStream.h"
 #include "HEXAlgException.h"
 #include "HUTFile.h"
 #include "IPConfigMessages.h"
 #include "SchemaFile.h"
 
-#include <rapidjson/ostreamwrapper.h>
 #include <rapidjson/prettywriter.h>
 
 #include <fstream>
@@ -19,7 +19,7 @@ namespace qpe::constraints {
 namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
-using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
+using PrettyWriter = rapidjson::PrettyWriter<HCBufferedOStream>;
 
 }  // namespace
 
@@ -248,20 +248,20 @@ void ConstrWriter::addSection_(const char* key, JValue& section)
 // value is written.
 void ConstrWriter::writeToJson_(std::ostream& out, bool validate)
 {
-  rapidjson::OStreamWrapper wrapper(out);
-  PrettyWriter writer(wrapper);
+  HCBufferedOStream buffered(out);
+  PrettyWriter writer(buffered);
   writer.SetIndent(' ', 2);
   writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
   if (!validate) {
     m_doc->Accept(writer);
-    out.flush();
+    buffered.Flush();
     return;
   }
   IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
   rapidjson::GenericSchemaValidator<IPConfig::JSchemaDocument, decltype(toWriter)> validator(
       *schema, toWriter);
   if (!m_doc->Accept(validator))
-    out.flush();
+    buffered.Flush();
   if (!validator.IsValid())
     throw SchemaFile::violation("@75-572@%s%s%s%s", jsonPath, validator);
 }
