@@ -9,6 +9,7 @@
 #include "DependentRoutingGroupConstr.h"
 #include "ConstrHandler.h"
 #include "ConstrUtils.h"
+#include "HCRapidJsonParser.h"
 #include "HEXAlgException.h"
 #include "HUTEnv.h"
 #include "HUTFile.h"
@@ -154,8 +155,10 @@ constexpr std::size_t nodeColocationKeys = 4;
 // The key locations of one read: the file is indexed once, and the path that
 // they record is worked out once.
 struct ConstrReader::Locations {
-  explicit Locations(const ConstrReader& reader)
-      : finder(reader.jsonPath), recordedPath(reader.getJsonPath())
+  explicit Locations(ConstrReader& reader)
+      : finder(reader.isTextOfFile ? LineFinder(reader.jsonPath, std::move(reader.jsonText))
+                                   : LineFinder(reader.jsonPath)),
+        recordedPath(reader.getJsonPath())
   {
   }
 
@@ -188,7 +191,7 @@ void ConstrReader::read(const std::string& path, bool validate)
 
 void ConstrReader::read(std::istream& in, const std::string& path, bool validate)
 {
-  readStream_(in, path, validate, &ConstrReader::readConstraints_);
+  readStream_(in, path, validate, &ConstrReader::readConstraints_, false);
 }
 
 void ConstrReader::readAreaGroupConstrs(const std::string& path, bool validate)
@@ -198,7 +201,7 @@ void ConstrReader::readAreaGroupConstrs(const std::string& path, bool validate)
 
 void ConstrReader::readAreaGroupConstrs(std::istream& in, const std::string& path, bool validate)
 {
-  readStream_(in, path, validate, &ConstrReader::readGlobalConstraints_);
+  readStream_(in, path, validate, &ConstrReader::readGlobalConstraints_, false);
 }
 
 std::string ConstrReader::getSchemaFile() const
@@ -223,6 +226,8 @@ void ConstrReader::reset()
 {
   schema.reset();
   document.reset();
+  jsonText = std::string();
+  isTextOfFile = false;
   locations.reset();
 }
 
@@ -258,16 +263,17 @@ void ConstrReader::readFile_(const std::string& path, bool validate, ReadSection
   // below is what stops the read.
   HUTFileUtils::checkFileForReading(path, {});
   std::ifstream in(path);
-  readStream_(in, path, validate, readSections);
+  readStream_(in, path, validate, readSections, true);
 }
 
 void ConstrReader::readStream_(std::istream& in, const std::string& path, bool validate,
-                               ReadSections readSections)
+                               ReadSections readSections, bool isFileAtPath)
 {
   reset();
   if (!in.good())
     Json::errorReadingJsonFile(path);
   jsonPath = path;
+  isTextOfFile = isFileAtPath;
   readSchema_();
   readJson_(in, validate);
   (this->*readSections)();
@@ -282,7 +288,7 @@ void ConstrReader::readSchema_()
 void ConstrReader::readJson_(std::istream& in, bool validate)
 {
   document = std::make_unique<JDocument>();
-  IPConfig::JsonFileFrame::parse(in, jsonPath, *document);
+  HCRapidJsonParser::parseJsonFile(in, jsonPath, *document, jsonText);
   if (!validate)
     return;
   rapidjson::GenericSchemaValidator<IPConfig::JSchemaDocument> validator(*schema);

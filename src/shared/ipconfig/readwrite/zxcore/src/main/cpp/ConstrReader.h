@@ -77,8 +77,10 @@ private:
   struct Locations;
 
   void readFile_(const std::string& path, bool validate, ReadSections readSections);
+  // `isFileAtPath`: `in` reads the file at `path`, whose text then serves
+  // the key locations as well.
   void readStream_(std::istream& in, const std::string& path, bool validate,
-                   ReadSections readSections);
+                   ReadSections readSections, bool isFileAtPath);
   void readSchema_();
   void readJson_(std::istream& in, bool validate);
   void readConstraints_();
@@ -156,6 +158,10 @@ private:
   std::unique_ptr<IPConfig::JSchemaDocument> schema;
   std::unique_ptr<JDocument> document;
   std::string jsonPath;
+  // The text of the read under way, kept for the key locations when it is
+  // the file at jsonPath, so that the file is not read twice.
+  std::string jsonText;
+  bool isTextOfFile = false;
   std::string schemaPath;
   // The key locations of the read under way, made at the first one.
   std::unique_ptr<Locations> locations;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 #include <fstream>
+#include <functional>
 
 namespace qpe::constraints {
 
@@ -20,23 +21,24 @@ const char* findChar(const char* from, const char* to, char wanted)
 
 LineFinder::LineFinder(const std::string& path) : path(path)
 {
-  if (path.empty()) {
-    failure = Failure::emptyPath;
+  if (!isIndexable_())
     return;
-  }
-  const HUTFile file(path);
-  if (!file.isFile()) {
-    failure = Failure::noFile;
-    return;
-  }
   std::ifstream in(path, std::ios::binary);
   if (!in) {
     failure = Failure::unopenable;
     return;
   }
-  contents.resize(file.size());
+  contents.resize(HUTFile(path).size());
   in.read(contents.data(), static_cast<std::streamsize>(contents.size()));
   contents.resize(static_cast<std::size_t>(in.gcount()));
+  index_();
+}
+
+LineFinder::LineFinder(const std::string& path, std::string text) : path(path)
+{
+  if (!isIndexable_())
+    return;
+  contents = std::move(text);
   index_();
 }
 
@@ -66,24 +68,25 @@ std::string LineFinder::makeJSONSearchStr(const std::string& key)
   return key.empty() ? std::string() : '"' + key + '"';
 }
 
-// Two passes: the texts are numbered and their places counted, then the
-// places are laid out text by text.
+bool LineFinder::isIndexable_()
+{
+  if (path.empty())
+    failure = Failure::emptyPath;
+  else if (!HUTFile(path).isFile())
+    failure = Failure::noFile;
+  return failure == Failure::none;
+}
+
+LineFinder::Entry LineFinder::hashOf_(std::string_view text)
+{
+  return static_cast<Entry>(std::hash<std::string_view>()(text)) & ~offsetMask;
+}
+
 void LineFinder::index_()
 {
-  struct Found {
-    std::uint32_t text;
-    Place place;
-  };
-  const auto quotes = static_cast<std::size_t>(std::count(contents.begin(), contents.end(), '"'));
-  textNumbers.reserve(quotes / 2);
-  std::vector<Found> found;
-  found.reserve(quotes / 2);
-  std::vector<std::uint32_t> lastLines;
   const char* const begin = contents.data();
   const char* const end = begin + contents.size();
-  std::uint32_t line = 0;
   for (const char* start = begin; start < end;) {
-    ++line;
     lineStarts.push_back(static_cast<std::size_t>(start - begin));
     const char* const newline = findChar(start, end, '\n');
     const char* const stop = newline ? newline : end;
@@ -91,29 +94,19 @@ void LineFinder::index_()
       const char* const close = findChar(open + 1, stop, '"');
       if (!close)
         break;
-      const std::string_view text(open + 1, static_cast<std::size_t>(close - open - 1));
-      const auto [number, isNew] =
-          textNumbers.try_emplace(text, static_cast<std::uint32_t>(lastLines.size()));
-      if (isNew)
-        lastLines.push_back(0);
-      if (lastLines[number->second] != line) {
-        lastLines[number->second] = line;
-        found.push_back({number->second, {line, static_cast<std::uint32_t>(open - start + 1)}});
-      }
+      const auto offset = static_cast<Entry>(open - begin);
+      // Beyond the offsets that an entry holds, nothing is found.
+      if (offset > offsetMask)
+        break;
+      entries.push_back(
+          hashOf_(std::string_view(open + 1, static_cast<std::size_t>(close - open - 1))) |
+          offset);
       open = close;
     }
     // The last line may have no line end: stop at the end, never past it.
     start = newline ? newline + 1 : end;
   }
-  placeStarts.assign(lastLines.size() + 1, 0);
-  for (const Found& each : found)
-    ++placeStarts[each.text + 1];
-  for (std::size_t n = 1; n < placeStarts.size(); ++n)
-    placeStarts[n] += placeStarts[n - 1];
-  std::vector<std::uint32_t> next(placeStarts.begin(), placeStarts.end() - 1);
-  places.resize(found.size());
-  for (const Found& each : found)
-    places[next[each.text]++] = each.place;
+  std::sort(entries.begin(), entries.end());
 }
 
 bool LineFinder::findFromTop_(std::string_view text, Place& place)
@@ -134,12 +127,11 @@ bool LineFinder::findAfter_(std::string_view text, std::uint32_t& line,
 {
   if (text.find('"') != std::string_view::npos)
     return findQuoted_(text, line, column);
-  const PlaceRange at = placesOf_(text);
-  const auto next = firstAfter_(at, line);
-  if (next == at.second)
+  Place place{0, 0};
+  if (!firstAfter_(text, line, place))
     return false;
-  line = next->line;
-  column = next->column;
+  line = place.line;
+  column = place.column;
   return true;
 }
 
@@ -149,12 +141,13 @@ bool LineFinder::findAfter_(std::string_view text, std::uint32_t& line,
 bool LineFinder::findQuoted_(std::string_view text, std::uint32_t& line,
                              std::uint32_t& column) const
 {
-  const PlaceRange at = placesOf_(text.substr(0, text.find('"')));
+  const std::string_view head = text.substr(0, text.find('"'));
   const std::string search = makeJSONSearchStr(std::string(text));
-  for (auto place = firstAfter_(at, line); place != at.second; ++place) {
-    const std::size_t found = line_(place->line).find(search);
+  Place place{0, 0};
+  for (std::uint32_t after = line; firstAfter_(head, after, place); after = place.line) {
+    const std::size_t found = line_(place.line).find(search);
     if (found != std::string_view::npos) {
-      line = place->line;
+      line = place.line;
       column = static_cast<std::uint32_t>(found + 1);
       return true;
     }
@@ -162,20 +155,36 @@ bool LineFinder::findQuoted_(std::string_view text, std::uint32_t& line,
   return false;
 }
 
-LineFinder::PlaceRange LineFinder::placesOf_(std::string_view text) const
+bool LineFinder::firstAfter_(std::string_view text, std::uint32_t line, Place& place) const
 {
-  const auto number = textNumbers.find(text);
-  if (number == textNumbers.end())
-    return {places.end(), places.end()};
-  return {places.begin() + placeStarts[number->second],
-          places.begin() + placeStarts[number->second + 1]};
+  // A text between neighbouring quotes of a line holds no line end.
+  if (line >= lineStarts.size() || lineStarts[line] > offsetMask ||
+      text.find('\n') != std::string_view::npos)
+    return false;
+  const Entry hash = hashOf_(text);
+  auto entry = std::lower_bound(entries.begin(), entries.end(), hash | lineStarts[line]);
+  for (; entry != entries.end() && (*entry & ~offsetMask) == hash; ++entry) {
+    const std::size_t offset = static_cast<std::size_t>(*entry & offsetMask);
+    if (standsAt_(text, offset)) {
+      place = placeOf_(offset);
+      return true;
+    }
+  }
+  return false;
 }
 
-LineFinder::Places::const_iterator LineFinder::firstAfter_(const PlaceRange& at,
-                                                           std::uint32_t line)
+bool LineFinder::standsAt_(std::string_view text, std::size_t offset) const
 {
-  return std::upper_bound(at.first, at.second, line,
-                          [](std::uint32_t after, const Place& place) { return after < place.line; });
+  const std::size_t close = offset + 1 + text.size();
+  return close < contents.size() && contents[close] == '"' &&
+         std::string_view(contents).substr(offset + 1, text.size()) == text;
+}
+
+LineFinder::Place LineFinder::placeOf_(std::size_t offset) const
+{
+  const auto next = std::upper_bound(lineStarts.begin(), lineStarts.end(), offset);
+  const auto line = static_cast<std::uint32_t>(next - lineStarts.begin());
+  return {line, static_cast<std::uint32_t>(offset - lineStarts[line - 1] + 1)};
 }
 
 std::string_view LineFinder::line_(std::uint32_t line) const

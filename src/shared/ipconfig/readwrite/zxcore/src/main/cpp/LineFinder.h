@@ -6,8 +6,6 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 #include <vector>
 
 namespace qpe::constraints {
@@ -18,7 +16,8 @@ namespace qpe::constraints {
 //
 // The file is read once, into an index of the texts that stand between two
 // neighbouring quotes of a line, so that a lookup is a binary search rather
-// than a scan of the file from its top.
+// than a scan of the file from its top. The index keeps no texts: only a
+// short hash and the offset of each, which a lookup checks against the text.
 class IPCONFIG_READWRITE_EXPORT LineFinder {
 public:
   // Reads the file. An empty path, a path that is no regular file, and a file
@@ -26,8 +25,11 @@ public:
   // last are reported at each lookup, with "@75-857@" and "@75-856@%s"
   // (warnings).
   explicit LineFinder(const std::string& path);
-  // The index holds views into the text it owns: a copy or a move would
-  // leave them pointing into another object.
+  // The same, with `text` the contents of the file at `path` as read already:
+  // the file is not read again.
+  LineFinder(const std::string& path, std::string text);
+  // It holds the whole text of the file: it is neither copied nor moved, so
+  // that the text is never held twice.
   LineFinder(const LineFinder&) = delete;
   LineFinder& operator=(const LineFinder&) = delete;
 
@@ -45,34 +47,40 @@ public:
 private:
   enum class Failure { none, emptyPath, noFile, unopenable };
 
+  // A short hash of a text in the high bits, the offset of its opening quote
+  // in the low ones.
+  using Entry = std::uint64_t;
+  static constexpr unsigned offsetBits = 40;
+  static constexpr Entry offsetMask = (Entry{1} << offsetBits) - 1;
+
   struct Place {
     std::uint32_t line;
     std::uint32_t column;
   };
-  using Places = std::vector<Place>;
-  using PlaceRange = std::pair<Places::const_iterator, Places::const_iterator>;
 
+  bool isIndexable_();
   void index_();
   bool findFromTop_(std::string_view text, Place& place);
   bool findAfter_(std::string_view text, std::uint32_t& line, std::uint32_t& column) const;
   bool findQuoted_(std::string_view text, std::uint32_t& line, std::uint32_t& column) const;
-  // The places of `text`, in file order; empty for a text not indexed.
-  PlaceRange placesOf_(std::string_view text) const;
-  static Places::const_iterator firstAfter_(const PlaceRange& at, std::uint32_t line);
+  // The first place on a line after `line` where `text`, which holds no
+  // quote, stands between two neighbouring quotes.
+  bool firstAfter_(std::string_view text, std::uint32_t line, Place& place) const;
+  // Whether `text` stands between the quote at `offset` and the next quote.
+  bool standsAt_(std::string_view text, std::size_t offset) const;
+  Place placeOf_(std::size_t offset) const;
   std::string_view line_(std::uint32_t line) const;
   void report_() const;
+  static Entry hashOf_(std::string_view text);
 
   std::string path;
   Failure failure = Failure::none;
   std::string contents;
   // Offset of the start of each line; line n starts at lineStarts[n - 1].
   std::vector<std::size_t> lineStarts;
-  // Each text between two neighbouring quotes of a line has a number; the
-  // places of text n, the first on each line where it stands, in file order,
-  // are places[placeStarts[n]] up to places[placeStarts[n + 1]].
-  std::unordered_map<std::string_view, std::uint32_t> textNumbers;
-  std::vector<std::uint32_t> placeStarts;
-  Places places;
+  // One entry for each text between two neighbouring quotes of a line,
+  // sorted: the places of one text are together, in file order.
+  std::vector<Entry> entries;
   // The last text looked for from the top, and where it was found: the keys
   // of one object are looked for one after another.
   std::string topText;
