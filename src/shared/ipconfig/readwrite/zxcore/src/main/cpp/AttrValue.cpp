@@ -22,14 +22,42 @@ AttrValue::AttrValue(int value, int defaultValue)
 
 AttrValue::AttrValue(const std::string& value, const std::string& defaultValue)
     : HATAttr(HATAttrTypes::AttrString), type(HATAttrTypes::AttrString),
-      defaultString(defaultValue)
+      defaultString(defaultValue.empty() ? nullptr : std::make_unique<const std::string>(defaultValue))
 {
   setStringVal(value);
 }
 
-AttrValue::AttrValue(const AttrValue&) = default;
-AttrValue& AttrValue::operator=(const AttrValue&) = default;
+// The caches are not copied: they are refilled at each use.
+AttrValue::AttrValue(const AttrValue& other)
+    : HATAttr(other), type(other.type), defaultBool(other.defaultBool),
+      defaultInt(other.defaultInt), defaultDouble(other.defaultDouble),
+      defaultString(other.defaultString ? std::make_unique<const std::string>(*other.defaultString)
+                                        : nullptr)
+{
+}
+
+AttrValue& AttrValue::operator=(const AttrValue& other)
+{
+  if (this == &other)
+    return *this;
+  HATAttr::operator=(other);
+  type = other.type;
+  defaultBool = other.defaultBool;
+  defaultInt = other.defaultInt;
+  defaultDouble = other.defaultDouble;
+  defaultString = other.defaultString
+                      ? std::make_unique<const std::string>(*other.defaultString)
+                      : nullptr;
+  return *this;
+}
+
 AttrValue::~AttrValue() = default;
+
+const std::string& AttrValue::getDefaultString() const
+{
+  static const std::string none;
+  return defaultString ? *defaultString : none;
+}
 
 bool AttrValue::isDefault() const
 {
@@ -48,7 +76,7 @@ void AttrValue::clear()
   case HATAttrTypes::AttrBool: setBoolVal(defaultBool); break;
   case HATAttrTypes::AttrInt: setIntVal(defaultInt); break;
   case HATAttrTypes::AttrDouble: setDoubleVal(defaultDouble); break;
-  case HATAttrTypes::AttrString: setStringVal(defaultString); break;
+  case HATAttrTypes::AttrString: setStringVal(getDefaultString()); break;
   case HATAttrTypes::AttrStringList: setStringVecVal({}); break;
   }
 }
@@ -74,13 +102,15 @@ void AttrValue::setDoubleVal(double value)
 void AttrValue::setStringVal(const std::string& value)
 {
   HATAttr::setStringVal(value.c_str());
-  setDefault(value == defaultString);
+  setDefault(value == getDefaultString());
 }
 
 const std::string& AttrValue::getStringVal() const
 {
-  holder = HATAttr::getStringVal();
-  return holder;
+  if (!holder)
+    holder = std::make_unique<std::string>();
+  *holder = HATAttr::getStringVal();
+  return *holder;
 }
 
 void AttrValue::setStringVecVal(const std::vector<std::string>& values)
@@ -104,8 +134,10 @@ void AttrValue::addStringVecVal(const std::string& value)
 const std::vector<std::string>& AttrValue::getStringVecVal() const
 {
   const HSTSList<std::string>& values = getStringList();
-  vecCache.assign(values.begin(), values.end());
-  return vecCache;
+  if (!vecCache)
+    vecCache = std::make_unique<std::vector<std::string>>();
+  vecCache->assign(values.begin(), values.end());
+  return *vecCache;
 }
 
 }  // namespace qpe::constraints

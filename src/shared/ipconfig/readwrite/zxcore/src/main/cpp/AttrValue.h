@@ -3,6 +3,7 @@
 #include "HATAttr.h"
 #include "ipconfig_readwrite_export.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -48,13 +49,17 @@ public:
 private:
   void setDefault(bool isDefaultValue);
 
+  const std::string& getDefaultString() const;
+
+  // The caches and the string default are made only when needed: most
+  // values never need them, and a store holds very many values.
   HATAttrTypes::AttrType type;
-  mutable std::string holder;
-  mutable std::vector<std::string> vecCache;
+  mutable std::unique_ptr<std::string> holder;
+  mutable std::unique_ptr<std::vector<std::string>> vecCache;
   bool defaultBool = false;
   int defaultInt = -1;
   double defaultDouble = -1.0;
-  std::string defaultString;
+  std::unique_ptr<const std::string> defaultString;  // null for ""
 };
 
 }  // namespace qpe::constraints

@@ -253,10 +253,23 @@ void BaseConstraint::resolveScopedPortNames(ConstrPropertiesMap& properties,
   rekey(properties, resolver, &BaseNameResolver::resolveScopedPortNames);
 }
 
+const ConstrPropertiesMap& BaseConstraint::getConstrObjectsProperties() const
+{
+  static const ConstrPropertiesMap none;
+  return properties ? *properties : none;
+}
+
+ConstrPropertiesMap& BaseConstraint::mutableConstrObjectsProperties()
+{
+  if (!properties)
+    properties = std::make_unique<ConstrPropertiesMap>();
+  return *properties;
+}
+
 void BaseConstraint::setConstrObjectProperties(const std::string& name, ConstrProperties props)
 {
   if (props.isSoft)
-    properties[name] = props;
+    mutableConstrObjectsProperties()[name] = props;
 }
 
 void BaseConstraint::setConstrObjectsProperties(const ConstrPropertiesMap& props)

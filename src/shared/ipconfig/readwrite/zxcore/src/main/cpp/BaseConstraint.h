@@ -8,6 +8,7 @@
 
 #include <initializer_list>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -89,7 +90,7 @@ public:
   const std::string& getConstrName() const { return constrName; }
   const SrcInfo& getSrcInfo() const { return srcInfo; }
   SrcInfo& getSrcInfo() { return srcInfo; }
-  const ConstrPropertiesMap& getConstrObjectsProperties() const { return properties; }
+  const ConstrPropertiesMap& getConstrObjectsProperties() const;
 
 protected:
   // `constr`'s object name through the resolver operation of its object type.
@@ -114,7 +115,7 @@ protected:
   static void resolveScopedPortNames(ConstrPropertiesMap& properties,
                                      const BaseNameResolver* resolver);
 
-  ConstrPropertiesMap& mutableConstrObjectsProperties() { return properties; }
+  ConstrPropertiesMap& mutableConstrObjectsProperties();
   // Only soft properties are kept.
   void setConstrObjectProperties(const std::string& name, ConstrProperties props);
   void setConstrObjectsProperties(const ConstrPropertiesMap& props);
@@ -160,7 +161,8 @@ private:
   ObjectType objType;
   std::string objName;
   SrcInfo srcInfo;
-  ConstrPropertiesMap properties;
+  // Made at the first property: most constraints have none.
+  std::unique_ptr<ConstrPropertiesMap> properties;
 };
 
 }  // namespace qpe::constraints

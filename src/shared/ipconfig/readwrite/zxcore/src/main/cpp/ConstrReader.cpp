@@ -158,12 +158,13 @@ struct ConstrReader::Locations {
   explicit Locations(ConstrReader& reader)
       : finder(reader.isTextOfFile ? LineFinder(reader.jsonPath, std::move(reader.jsonText))
                                    : LineFinder(reader.jsonPath)),
-        recordedPath(reader.getJsonPath())
+        recordedPath(std::make_shared<const std::string>(reader.getJsonPath()))
   {
   }
 
   LineFinder finder;
-  std::string recordedPath;
+  // Shared by the locations of all keys.
+  std::shared_ptr<const std::string> recordedPath;
 };
 
 ConstrReader::ConstrReader(ConstrHandler& handler)
@@ -229,6 +230,7 @@ void ConstrReader::reset()
   jsonText = std::string();
   isTextOfFile = false;
   locations.reset();
+  sourceFiles.clear();
 }
 
 bool ConstrReader::isSrcInfoBaseConstraint(const std::string& key)
@@ -838,7 +840,7 @@ void ConstrReader::parseSrcInfo_(const JValue& value, const std::string& key,
   std::uint32_t line = 0;
   std::uint32_t column = 0;
   if (constr && json::readSrcInfo(value, file, line, column))
-    constr->getSrcInfo().set(SrcInfo::SourceFile, file, line, column);
+    constr->getSrcInfo().set(SrcInfo::SourceFile, sharedFile_(file), line, column);
 }
 
 void ConstrReader::setUserJsonExclusiveSrcInfo_(const std::string& key,
@@ -861,7 +863,7 @@ void ConstrReader::parseExclusiveSrcInfo_(const JValue& value, const std::string
   std::uint32_t line = 0;
   std::uint32_t column = 0;
   if (colocation && json::readSrcInfo(value, file, line, column))
-    colocation->getExclusiveSrcInfo().set(SrcInfo::SourceFile, file, line, column);
+    colocation->getExclusiveSrcInfo().set(SrcInfo::SourceFile, sharedFile_(file), line, column);
 }
 
 // A group's location: where its name first stands in this file, or the
@@ -877,7 +879,7 @@ void ConstrReader::parseAreaGroupSrcInfo_(const JValue& value, const std::string
   std::uint32_t line = 0;
   std::uint32_t column = 0;
   if (json::readSrcInfo(json::JBaseValue::member(value, "srcInfo"), file, line, column))
-    srcInfo->set(SrcInfo::SourceFile, file, line, column);
+    srcInfo->set(SrcInfo::SourceFile, sharedFile_(file), line, column);
 }
 
 SrcInfo* ConstrReader::getGroupSrcInfo_(const std::string& key, const std::string& name) const
@@ -907,6 +909,16 @@ void ConstrReader::findLocInJSON_(const std::string& objName, const std::string&
                                   std::uint32_t& line, std::uint32_t& column)
 {
   locations_().finder.find({objName, key}, line, column);
+}
+
+std::shared_ptr<const std::string> ConstrReader::sharedFile_(const std::string& file)
+{
+  if (file.empty())
+    return nullptr;
+  std::shared_ptr<const std::string>& shared = sourceFiles[file];
+  if (!shared)
+    shared = std::make_shared<const std::string>(file);
+  return shared;
 }
 
 ConstrReader::Locations& ConstrReader::locations_()

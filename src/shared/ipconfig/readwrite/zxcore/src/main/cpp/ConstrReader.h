@@ -10,6 +10,7 @@
 #include <iosfwd>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -151,6 +152,8 @@ private:
   void findLocInJSON_(const std::string& objName, const std::string& key, std::uint32_t& line,
                       std::uint32_t& column);
   Locations& locations_();
+  // One string for all locations in the same source file.
+  std::shared_ptr<const std::string> sharedFile_(const std::string& file);
 
   ConstrHandler& handler;
   std::unique_ptr<BaseNameResolver> ownResolver;
@@ -165,6 +168,7 @@ private:
   std::string schemaPath;
   // The key locations of the read under way, made at the first one.
   std::unique_ptr<Locations> locations;
+  std::unordered_map<std::string, std::shared_ptr<const std::string>> sourceFiles;
 };
 
 }  // namespace qpe::constraints

@@ -2,7 +2,10 @@
 
 #include "BaseConstraint.h"
 
+#include <cstddef>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -12,9 +15,18 @@ namespace qpe::constraints {
 // first of each constraint name (compared without case) and of each type at
 // hand: an object with many attributes is then read in linear time.
 // It does not own the constraints.
+//
+// Most objects bear a few constraints, which a look along the list finds as
+// fast as a hash: the hashed lookups are made only for an object with many,
+// and cost nothing for the others.
 class ObjectConstrs {
 public:
   using Constrs = std::vector<BaseConstraint*>;
+
+  ObjectConstrs();
+  ObjectConstrs(ObjectConstrs&&) noexcept;
+  ObjectConstrs& operator=(ObjectConstrs&&) noexcept;
+  ~ObjectConstrs();
 
   void add(BaseConstraint* constr);
   // Removes the first occurrence; false when there is none.
@@ -30,14 +42,18 @@ public:
   BaseConstraint* firstOfType(BaseConstraint::ConstrType constrType) const;
 
 private:
-  static std::string nameKey(const std::string& constrName);
-  // The constraint after `from` that `matches`, or null.
+  // Beyond this many constraints the hashed lookups are kept.
+  static constexpr std::size_t fewConstrs = 8;
+
+  struct Lookups;
+
+  // The constraint from `from` on that `matches`, or null.
   template <typename Matches>
-  BaseConstraint* nextAfter(Constrs::const_iterator from, const Matches& matches) const;
+  BaseConstraint* firstFrom(Constrs::const_iterator from, const Matches& matches) const;
+  void addToLookups(BaseConstraint* constr);
 
   Constrs constrs;
-  std::unordered_map<std::string, BaseConstraint*> firstByName;
-  std::unordered_map<int, BaseConstraint*> firstByType;
+  std::unique_ptr<Lookups> lookups;
 };
 
 }  // namespace qpe::constraints
