@@ -167,9 +167,14 @@ std::string BaseConstraint::str() const
   return " constraint(" + getObjName() + ")=(" + constrName + ")";
 }
 
+// As PortRenamer::renamePortObject, on the name held here, which is not copied.
 void BaseConstraint::renamePorts(const std::map<std::string, std::string>& oldToNew)
 {
-  PortRenamer::renamePortObject(oldToNew, this);
+  if (objType != PORT)
+    return;
+  const std::string* newName = PortRenamer::findNewName(oldToNew, objName);
+  if (newName && *newName != objName)
+    setObjName(*newName);
 }
 
 void BaseConstraint::copySrcInfoFrom(const BaseConstraint* other)

@@ -646,6 +646,7 @@ void ConstrHandler::dump() const
 
 void ConstrHandler::renamePorts(const std::map<std::string, std::string>& oldToNew)
 {
+  const PortRenamer::HashedScope hashed(oldToNew);
   for (std::size_t i = 0; i < constrs.size(); ++i)
     constrs[i]->renamePorts(oldToNew);
   for (const auto& [oldName, newName] : oldToNew) {

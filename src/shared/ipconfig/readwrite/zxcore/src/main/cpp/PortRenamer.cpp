@@ -7,6 +7,34 @@
 
 namespace qpe::constraints {
 
+namespace {
+thread_local PortRenamer::HashedScope* currentScope = nullptr;
+}
+
+PortRenamer::HashedScope::HashedScope(const RenameMap& renames)
+    : oldToNew(renames), outer(currentScope)
+{
+  newNames.reserve(renames.size());
+  for (const auto& [oldName, newName] : renames)
+    newNames.emplace(oldName, &newName);
+  currentScope = this;
+}
+
+PortRenamer::HashedScope::~HashedScope()
+{
+  currentScope = outer;
+}
+
+const std::string* PortRenamer::findNewName(const RenameMap& oldToNew, std::string_view oldName)
+{
+  if (currentScope && &currentScope->oldToNew == &oldToNew) {
+    const auto found = currentScope->newNames.find(oldName);
+    return found == currentScope->newNames.end() ? nullptr : found->second;
+  }
+  const auto found = oldToNew.find(std::string(oldName));
+  return found == oldToNew.end() ? nullptr : &found->second;
+}
+
 PortRenamer::PortRenamer(const RenameMap& renames) : oldToNew(renames) {}
 
 std::string PortRenamer::getNewPortName(const std::string& oldName) const
@@ -32,8 +60,8 @@ void PortRenamer::renameConstrObjectProperties(ConstrPropertiesMap& properties) 
 
 std::string PortRenamer::getNewPortName(const RenameMap& oldToNew, const std::string& oldName)
 {
-  const auto rename = oldToNew.find(oldName);
-  return rename == oldToNew.end() ? oldName : rename->second;
+  const std::string* newName = findNewName(oldToNew, oldName);
+  return newName ? *newName : oldName;
 }
 
 void PortRenamer::getNewPortNames(const RenameMap& oldToNew,
@@ -55,9 +83,10 @@ void PortRenamer::renamePortObject(const RenameMap& oldToNew, BaseConstraint* co
 {
   if (!constr || constr->getObjType() != BaseConstraint::PORT)
     return;
-  const auto rename = oldToNew.find(constr->getObjName());
-  if (rename != oldToNew.end() && rename->second != rename->first)
-    constr->setObjName(rename->second);
+  const std::string oldName = constr->getObjName();
+  const std::string* newName = findNewName(oldToNew, oldName);
+  if (newName && *newName != oldName)
+    constr->setObjName(*newName);
 }
 
 void PortRenamer::renameConstrObjectProperties(const RenameMap& oldToNew,

@@ -5,6 +5,8 @@
 
 #include <map>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace qpe::constraints {
@@ -40,6 +42,27 @@ public:
   static void renamePortObject(const RenameMap& oldToNew, BaseConstraint* constr);
   static void renameConstrObjectProperties(const RenameMap& oldToNew,
                                            ConstrPropertiesMap& properties);
+  // The new name of `oldName`, or null when the map does not rename it.
+  static const std::string* findNewName(const RenameMap& oldToNew, std::string_view oldName);
+
+  // While one lives on a thread, the static forms there find the names of
+  // its map by hash rather than by a search of the map: a store renames all
+  // of its constraints with one map, through their own renamePorts, which
+  // take nothing but the map.
+  class IPCONFIG_READWRITE_EXPORT HashedScope {
+  public:
+    explicit HashedScope(const RenameMap& oldToNew);
+    ~HashedScope();
+    HashedScope(const HashedScope&) = delete;
+    HashedScope& operator=(const HashedScope&) = delete;
+
+  private:
+    friend class PortRenamer;
+
+    const RenameMap& oldToNew;
+    std::unordered_map<std::string_view, const std::string*> newNames;
+    HashedScope* outer;
+  };
 
 private:
   RenameMap oldToNew;
