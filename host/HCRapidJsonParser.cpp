@@ -87,6 +87,10 @@ void readAll(std::istream& in, std::string& text)
 {
   constexpr std::size_t block = std::size_t{1} << 16;
   text.clear();
+  // A file or string stream tells how much is left; the text then grows once.
+  const std::streamsize left = in.rdbuf() ? in.rdbuf()->in_avail() : 0;
+  if (left > 0)
+    text.reserve(static_cast<std::size_t>(left) + block);
   std::size_t size = 0;
   for (;;) {
     text.resize(size + block);
