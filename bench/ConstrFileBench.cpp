@@ -2,16 +2,12 @@
 #include "ComMsgLog.h"
 #include "ComMsgMgr.h"
 #include "ConstrHandler.h"
-#include "ForwardingHandler.h"
 #include "ParseAndValidate.h"
 #include "SchemaFile.h"
 
 #include <benchmark/benchmark.h>
 #include <boost/filesystem.hpp>
 #include <rapidjson/istreamwrapper.h>
-#include <rapidjson/ostreamwrapper.h>
-#include <rapidjson/prettywriter.h>
-#include <rapidjson/schema.h>
 
 #include <fstream>
 #include <map>
@@ -19,21 +15,23 @@
 #include <utility>
 
 // ConstrHandler::read and write of generated constraints files, each timed
-// beside its floor on the same file in the same iteration: RapidJSON alone
-// parsing the same text and validating it with the same schema, read and compiled
-// anew as the library does; and for the write, RapidJSON alone passing the
-// same document through the validator into a pretty writer. Counters:
-// x_floor, the library's time over the floor's; x_10k, at 100k constraints,
-// the library's time over its time at 10k (linear is 10).
+// beside its floors on the same file in the same iteration: `a`, RapidJSON
+// alone parsing the same text from memory; `b`, `a` and the same schema read,
+// compiled and validating, anew as the library does; and for the write,
+// `wb`, RapidJSON alone passing the same document through the validator into
+// a pretty writer. Counters: x_a, x_b, x_wb, the library's time over the
+// floor's; x_10k, at 100k constraints, the library's time over its time at
+// 10k (linear is 10); peak_bytes_per_item, the peak memory of a library run
+// per constraint. The 1M size runs with IPCONFIG_RW_BENCH_LARGE set.
 namespace {
 
 using qpe::constraints::ConstrHandler;
 using qpe::constraints::SchemaFile;
-using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
 namespace fs = boost::filesystem;
 
-// `count` attributes, three on each object: nodes, ports and nets in turn,
-// one key in ten with a source location in another file.
+// About `count` constraints: three attributes on each object, nodes, ports
+// and nets in turn, one key in ten with a source location in another file;
+// a tile on one node in fifty; and ten area groups.
 std::string makeConstraints(int count)
 {
   const int objects = count / 3;
@@ -46,11 +44,21 @@ std::string makeConstraints(int count)
     if (i % 10 == 0)
       section += "      \"fifo_depth_src_info\": {\"file\": \"graph.cpp\", \"line\": " +
                  std::to_string(i) + ", \"column\": 3},\n";
+    if (i % 150 == 0)
+      section += "      \"tile\": {\"column\": " + std::to_string(i % 50) +
+                 ", \"row\": " + std::to_string(i % 8) + "},\n";
     section += "      \"weight\": " + std::to_string(0.5 + i % 7) +
                ",\n      \"label\": \"kernel_" + std::to_string(i) + "\"\n    }";
   }
+  std::string groups;
+  for (int g = 0; g < 10; ++g)
+    groups += std::string(g ? ",\n" : "\n") + "    \"areaGroup\": {\"name\": \"group_" +
+              std::to_string(g) + "\", \"nodeGroup\": [\"top/inst_" + std::to_string(3 * g) +
+              "\"], \"tileGroup\": [\"(" + std::to_string(g) + ",0):(" +
+              std::to_string(g + 2) + ",3)\"]}";
   return "{\n  \"NodeConstraints\": {" + sections[0] + "\n  },\n  \"PortConstraints\": {" +
-         sections[1] + "\n  },\n  \"NetConstraints\": {" + sections[2] + "\n  }\n}\n";
+         sections[1] + "\n  },\n  \"NetConstraints\": {" + sections[2] +
+         "\n  },\n  \"GlobalConstraints\": {" + groups + "\n  }\n}\n";
 }
 
 // `count` attributes, all on one node.
@@ -83,25 +91,12 @@ public:
   const std::string text;
 };
 
-void validateAndPrint(const JDocument& document, const std::string& path,
-                      const std::string& schemaPath)
+void report(benchmark::State& state, std::map<int64_t, double>& means,
+            const BesideFloors& times)
 {
-  const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
-  std::ofstream out(path);
-  rapidjson::OStreamWrapper wrapper(out);
-  PrettyWriter writer(wrapper);
-  writer.SetIndent(' ', 2);
-  writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
-  IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
-  rapidjson::GenericSchemaValidator<rapidjson::SchemaDocument, decltype(toWriter)> validator(
-      *schema, toWriter);
-  benchmark::DoNotOptimize(document.Accept(validator));
-}
-
-void report(benchmark::State& state, std::map<int64_t, double>& means, double library,
-            double floor)
-{
-  reportBesideFloor(state, means, library, floor, 10000, 100000, "x_10k");
+  times.report(state);
+  reportBesideFloor(state, means, times.library, times.floors.at("x_b"), 10000, 100000,
+                    "x_10k");
 }
 
 void BM_ConstrFileRead(benchmark::State& state)
@@ -110,21 +105,25 @@ void BM_ConstrFileRead(benchmark::State& state)
   const GeneratedFile file(static_cast<int>(state.range(0)));
   const std::string schemaPath = SchemaFile::getConstraintsSchema();
   static std::map<int64_t, double> means;
-  double library = 0;
-  double floor = 0;
+  BesideFloors times;
   for (auto _ : state) {
-    floor += seconds([&] { parseAndValidate(file.text, schemaPath); });
+    times.floors["x_a"] += seconds([&] {
+      JDocument document;
+      benchmark::DoNotOptimize(parseText(file.text, document));
+    });
+    times.floors["x_b"] += seconds([&] { parseAndValidate(file.text, schemaPath); });
+    const PeakMemory peak;
     ConstrHandler handler;
     const double read = seconds([&] { handler.read(file.path()); });
-    library += read;
+    peak.report(state, state.range(0));
+    handler.clear();
+    times.library += read;
     state.SetIterationTime(read);
   }
-  report(state, means, library, floor);
+  report(state, means, times);
 }
 BENCHMARK(BM_ConstrFileRead)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(100000)
+    ->Apply([](benchmark::internal::Benchmark* bench) { addSizes(bench, 10000, 100000, 1000000); })
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
@@ -162,21 +161,25 @@ void BM_ConstrFileWrite(benchmark::State& state)
     written.ParseStream(wrapper);
   }
   static std::map<int64_t, double> means;
-  double library = 0;
-  double floor = 0;
+  BesideFloors times;
   for (auto _ : state) {
-    floor += seconds([&] { validateAndPrint(written, file.output(), schemaPath); });
+    times.floors["x_wb"] += seconds([&] {
+      std::ofstream out(file.output());
+      validateAndPrettyPrint(written, out, schemaPath, rapidjson::kFormatSingleLineArray);
+    });
+    const PeakMemory peak;
     const double write = seconds([&] { handler.write(file.output()); });
-    library += write;
+    peak.report(state, state.range(0));
+    times.library += write;
     state.SetIterationTime(write);
     ComMsgLog::clear();
   }
-  report(state, means, library, floor);
+  times.report(state);
+  reportBesideFloor(state, means, times.library, times.floors.at("x_wb"), 10000, 100000,
+                    "x_10k");
 }
 BENCHMARK(BM_ConstrFileWrite)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(100000)
+    ->Apply([](benchmark::internal::Benchmark* bench) { addSizes(bench, 10000, 100000, 1000000); })
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 

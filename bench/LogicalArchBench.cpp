@@ -6,6 +6,7 @@
 #include "ZXLogicalArchReader.h"
 #include "ZXLogicalArchWriter.h"
 
+#include "BesideFloor.h"
 #include "ParseAndValidate.h"
 
 #include <benchmark/benchmark.h>
@@ -70,19 +71,33 @@ void BM_LogicalArchParseAndValidate(benchmark::State& state)
 }
 BENCHMARK(BM_LogicalArchParseAndValidate)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
 
+// Beside its floors in the same iteration (see BesideFloor.h): x_a, x_b.
 void BM_LogicalArchRead(benchmark::State& state)
 {
   const std::string text = makeLogicalArch(state.range(0));
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile();
   HDGUIStatus status;
+  BesideFloors times;
   for (auto _ : state) {
+    times.floors["x_a"] += seconds([&] {
+      JDocument document;
+      benchmark::DoNotOptimize(parseText(text, document));
+    });
+    times.floors["x_b"] += seconds([&] { parseAndValidate(text, schemaPath); });
     std::istringstream in(text);
     ZXLogicalArchModel model;
-    ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model, status);
+    const PeakMemory peak;
+    times.library += seconds(
+        [&] { ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model, status); });
+    peak.report(state, state.range(0));
     benchmark::DoNotOptimize(model.isEmpty());
   }
+  times.report(state);
   setCounters(state);
 }
-BENCHMARK(BM_LogicalArchRead)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LogicalArchRead)
+    ->Apply([](benchmark::internal::Benchmark* bench) { addSizes(bench, 20000, 200000, 2000000); })
+    ->Unit(benchmark::kMillisecond);
 
 void BM_LogicalArchWrite(benchmark::State& state)
 {

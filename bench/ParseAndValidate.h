@@ -4,13 +4,13 @@
 #include "HCRapidJsonReadWriteUtils.h"
 
 #include <rapidjson/istreamwrapper.h>
-#include <rapidjson/ostreamwrapper.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/schema.h>
+#include <rapidjson/stringbuffer.h>
 
 #include <fstream>
 #include <memory>
-#include <sstream>
+#include <ostream>
 #include <string>
 
 // The schema at `schemaPath`, read and compiled anew as every reader and
@@ -24,32 +24,42 @@ inline std::unique_ptr<rapidjson::SchemaDocument> loadSchema(const std::string& 
   return std::make_unique<rapidjson::SchemaDocument>(schemaDocument);
 }
 
-// The floor of a reader's time: RapidJSON alone parses `text` from a stream
-// and validates it with the schema at `schemaPath`.
+// Floor `a` of a reader's time: RapidJSON alone parses `text` from memory.
+inline bool parseText(const std::string& text, JDocument& document)
+{
+  document.Parse(text.c_str(), text.size());
+  return !document.HasParseError();
+}
+
+// Floor `b`: `a`, and the schema at `schemaPath` loaded and validating.
 inline bool parseAndValidate(const std::string& text, const std::string& schemaPath)
 {
-  std::istringstream in(text);
-  rapidjson::IStreamWrapper wrapper(in);
   JDocument document;
-  document.ParseStream(wrapper);
+  parseText(text, document);
   const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
   rapidjson::SchemaValidator validator(*schema);
   return document.Accept(validator);
 }
 
-// The floor of a writer's time: RapidJSON alone passes `document` through a
-// validator of the schema at `schemaPath` into a pretty writer on `out`, with
-// the indent of the library's files.
-inline bool validateAndPrettyPrint(const JDocument& document, std::ostream& out,
-                                   const std::string& schemaPath)
+// Floor `wb` of a writer's time: RapidJSON alone passes `document` through a
+// validator of the schema at `schemaPath` into a pretty writer, with the
+// indent and `formatOptions` of the library's files, into memory, and hands
+// the text to `out` in one block.
+inline bool validateAndPrettyPrint(
+    const JDocument& document, std::ostream& out, const std::string& schemaPath,
+    rapidjson::PrettyFormatOptions formatOptions = rapidjson::kFormatDefault)
 {
-  using PrettyWriter = rapidjson::PrettyWriter<rapidjson::OStreamWrapper>;
+  using PrettyWriter = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
   const std::unique_ptr<rapidjson::SchemaDocument> schema = loadSchema(schemaPath);
-  rapidjson::OStreamWrapper wrapper(out);
-  PrettyWriter writer(wrapper);
+  rapidjson::StringBuffer text;
+  PrettyWriter writer(text);
   writer.SetIndent(' ', 2);
+  writer.SetFormatOptions(formatOptions);
   IPConfig::ForwardingHandler<PrettyWriter> toWriter(writer);
   rapidjson::GenericSchemaValidator<rapidjson::SchemaDocument, decltype(toWriter)> validator(
       *schema, toWriter);
-  return document.Accept(validator);
+  const bool valid = document.Accept(validator);
+  out.write(text.GetString(), static_cast<std::streamsize>(text.GetSize()));
+  out.flush();
+  return valid;
 }

@@ -4,11 +4,12 @@
 #include "NOCJsonTrafficSpecWriter.h"
 #include "TrafficSpec.h"
 
+#include "BesideFloor.h"
 #include "ParseAndValidate.h"
 
 #include <benchmark/benchmark.h>
 
-#include <ctime>
+#include <cstdlib>
 #include <map>
 #include <sstream>
 #include <string>
@@ -68,38 +69,44 @@ BENCHMARK(BM_TrafficParseAndValidate)
     ->Args({5000, 50000})
     ->Unit(benchmark::kMillisecond);
 
+// Beside its floors in the same iteration (see BesideFloor.h): x_a, x_b.
 void BM_TrafficRead(benchmark::State& state)
 {
   const std::string text = makeTraffic(state.range(0), state.range(1));
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
   HDGUIStatus status;
+  BesideFloors times;
   for (auto _ : state) {
+    times.floors["x_a"] += seconds([&] {
+      JDocument document;
+      benchmark::DoNotOptimize(parseText(text, document));
+    });
+    times.floors["x_b"] += seconds([&] { parseAndValidate(text, schemaPath); });
     std::istringstream in(text);
     HrdIPToolCntr::TrafficSpec spec;
-    NOC::NOCJsonTrafficSpecReader().readFromJsonFile(in, "bench.json", spec, status);
+    const PeakMemory peak;
+    times.library += seconds(
+        [&] { NOC::NOCJsonTrafficSpecReader().readFromJsonFile(in, "bench.json", spec, status); });
+    peak.report(state, state.range(0) + state.range(1));
     benchmark::DoNotOptimize(spec.getNumPaths());
   }
+  times.report(state);
   setCounters(state);
 }
-BENCHMARK(BM_TrafficRead)->Args({500, 5000})->Args({5000, 50000})->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TrafficRead)
+    ->Args({500, 5000})
+    ->Args({5000, 50000})
+    ->Apply([](benchmark::internal::Benchmark* bench) {
+      if (std::getenv("IPCONFIG_RW_BENCH_LARGE"))
+        bench->Args({50000, 500000});
+    })
+    ->Unit(benchmark::kMillisecond);
 
-// The writer beside its floor in the same iteration: RapidJSON alone passing
-// the written document through the validator into a pretty writer. Both are
-// timed in the thread's CPU time, which a machine shared with other jobs
-// leaves steady where the wall clock is not. Counters: x_floor, the writer's
-// time over the floor's; x_5k, at 50,000 paths, the writer's time over its
-// time at 5,000 (linear is 10).
+// The writer beside its floor `wb` in the same iteration (see BesideFloor.h).
+// Counters: x_floor, the writer's time over the floor's; x_5k, at 50,000
+// paths, the writer's time over its time at 5,000 (linear is 10).
 void BM_TrafficWrite(benchmark::State& state)
 {
-  const auto seconds = [](const auto& action) {
-    const auto now = [] {
-      timespec time{};
-      clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-      return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-    };
-    const double start = now();
-    action();
-    return now() - start;
-  };
   HDGUIStatus status;
   HrdIPToolCntr::TrafficSpec spec;
   std::istringstream in(makeTraffic(state.range(0), state.range(1)));
