@@ -2,6 +2,7 @@
 
 #include "DestIdRepr.h"
 #include "Route.h"
+#include "TrafficNet.h"
 #include "ipconfig_hrdip_export.h"
 
 #include <map>
@@ -18,7 +19,6 @@ class Link;
 namespace HrdIPToolCntr {
 
 class TrafficLInst;
-class TrafficNet;
 class TrafficPath;
 
 // What the NoC compiler answered to a traffic model: the routes of the nets,
@@ -32,6 +32,9 @@ public:
   using Placement = std::pair<const DevHrdIP::Component*, bool>;  // component, locked
   using LatencyAndBw = std::pair<unsigned, unsigned>;
   using PhaseBw = std::map<std::string, unsigned>;
+  // In the order of the nets in the traffic model, so that every walk of the
+  // routes, and every file written from them, is the same from run to run.
+  using Routes = std::map<const TrafficNet*, Route, TrafficNet::ModelOrder>;
 
   explicit CompRes(const DevHrdIP::HIPDevice* device = nullptr);
 
@@ -39,7 +42,7 @@ public:
   int solutionType = NO_SOLUTION;
   // Turns on the per-phase figures of the solution file.
   bool phaseMode = false;
-  std::map<const TrafficNet*, Route> routes;
+  Routes routes;
   std::map<const TrafficLInst*, Placement> placements;
   std::map<const DevHrdIP::Component*, const TrafficLInst*> placedInstances;
   std::map<const DevHrdIP::Component*, DestId> destIds;

@@ -3,12 +3,28 @@
 #include "TrafficPath.h"
 #include "TrafficSpec.h"
 
+#include <functional>
+#include <utility>
+
 namespace HrdIPToolCntr {
 
-TrafficNet::TrafficNet(TrafficPath* path, NetType type)
+bool TrafficNet::ModelOrder::operator()(const TrafficNet* left, const TrafficNet* right) const
+{
+  if (left == nullptr || right == nullptr)
+    return left == nullptr && right != nullptr;
+  const auto place = [](const TrafficNet* net) {
+    return std::make_pair(net->path->getIndex(), net->index);
+  };
+  if (place(left) != place(right))
+    return place(left) < place(right);
+  return std::less<const TrafficNet*>()(left, right);
+}
+
+TrafficNet::TrafficNet(TrafficPath* path, NetType type, int index)
   : instance(type == READ || type == WRITE_RESP ? path->slave : path->master),
     type(type),
-    path(path)
+    path(path),
+    index(index)
 {
 }
 

@@ -17,14 +17,23 @@ class IPCONFIG_HRDIP_EXPORT TrafficNet {
 public:
   enum NetType { READ = 0, WRITE = 1, READ_REQ = 2, WRITE_RESP = 3 };
 
+  // Orders nets by their place in the model: their path's index in the
+  // spec, then their own index in the path. Maps keyed by net walk in the
+  // same order on every run, whatever the addresses. Nets of different
+  // models that share a place fall back to their addresses.
+  struct ModelOrder {
+    bool operator()(const TrafficNet* left, const TrafficNet* right) const;
+  };
+
   // The instance whose name messages show is the one where the net's traffic
   // starts: the slave for read data and write responses, the master for
-  // writes and read requests.
-  TrafficNet(TrafficPath* path, NetType type);
+  // writes and read requests. `index` is the net's place in its path.
+  TrafficNet(TrafficPath* path, NetType type, int index);
 
   const TrafficLInst* instance;
   NetType type;
   TrafficPath* path;
+  int index;
 
   bool isRead() const { return type == READ || type == READ_REQ; }
 

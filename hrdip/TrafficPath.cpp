@@ -24,17 +24,18 @@ bool hasPhaseBesidesDefault(const std::map<std::string, TrafficPerfSpec>& phases
 
 }  // namespace
 
-TrafficPath::TrafficPath(TrafficSpec& spec, TrafficLInst* master, TrafficLInst* slave)
-  : master(master), slave(slave), phaseGroupName(DEFAULT_GROUP), spec(spec)
+TrafficPath::TrafficPath(TrafficSpec& spec, int index, TrafficLInst* master,
+                         TrafficLInst* slave)
+  : master(master), slave(slave), phaseGroupName(DEFAULT_GROUP), spec(spec), index(index)
 {
   if (master->protocol == Defs::AXI_STRM) {
-    nets.emplace_back(this, TrafficNet::WRITE);
+    nets.emplace_back(this, TrafficNet::WRITE, 0);
     return;
   }
   nets.reserve(4);
   for (TrafficNet::NetType type :
        {TrafficNet::READ, TrafficNet::WRITE, TrafficNet::READ_REQ, TrafficNet::WRITE_RESP})
-    nets.emplace_back(this, type);
+    nets.emplace_back(this, type, getNumNets());
 }
 
 TrafficPath::~TrafficPath() = default;

@@ -26,10 +26,10 @@ class IPCONFIG_HRDIP_EXPORT TrafficPath : public TrafficAddressSpace {
 public:
   using PerfSpec = TrafficPerfSpec;
 
-  // Made by TrafficSpec::addPath, which owns it. A stream path (its master
-  // speaks AXI_STRM) has one write net; any other path has a read, a write,
-  // a read request and a write response net, in that order.
-  TrafficPath(TrafficSpec& spec, TrafficLInst* master, TrafficLInst* slave);
+  // Made by TrafficSpec::addPath, which owns it, at `index`. A stream path
+  // (its master speaks AXI_STRM) has one write net; any other path has a
+  // read, a write, a read request and a write response net, in that order.
+  TrafficPath(TrafficSpec& spec, int index, TrafficLInst* master, TrafficLInst* slave);
   TrafficPath(const TrafficPath&) = delete;
   TrafficPath& operator=(const TrafficPath&) = delete;
   ~TrafficPath();
@@ -94,6 +94,8 @@ public:
   int getNumNets() const { return static_cast<int>(nets.size()); }
 
   const TrafficSpec& getSpec() const { return spec; }
+  // The path's index in its spec (TrafficSpec::getPath).
+  int getIndex() const { return index; }
 
 private:
   struct PhaseFigures {
@@ -105,6 +107,7 @@ private:
                          const std::string& phaseName, const PerfSpec& spec);
 
   TrafficSpec& spec;
+  int index;
   std::vector<TrafficNet> nets;
   PerfSpec readPerf;
   PerfSpec writePerf;

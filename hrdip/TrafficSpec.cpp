@@ -40,7 +40,7 @@ void TrafficSpec::addPortTypeForMC(TrafficLInst* instance, Defs::PORT_TYPE port)
 
 TrafficPath* TrafficSpec::addPath(TrafficLInst* master, TrafficLInst* slave)
 {
-  paths.push_back(std::make_unique<TrafficPath>(*this, master, slave));
+  paths.push_back(std::make_unique<TrafficPath>(*this, getNumPaths(), master, slave));
   TrafficPath* path = paths.back().get();
   pathsByEnds[{master, slave}].push_back(path);
   return path;

@@ -59,13 +59,16 @@ struct RunResult {
   std::string output;  // stderr, then stdout: the tool's stdout is flushed at its end
 };
 
-// Runs ipconfig-rw with `args` through the shell; with a time limit, a run
-// that passes it is killed and gives exit code 124.
-inline RunResult runTool(const std::string& args, int timeLimitSeconds = 0)
+// Runs ipconfig-rw with `args` through the shell, in `workingDir` when one is
+// given; with a time limit, a run that passes it is killed and gives exit
+// code 124.
+inline RunResult runTool(const std::string& args, int timeLimitSeconds = 0,
+                         const std::string& workingDir = {})
 {
   const std::string limit =
       timeLimitSeconds > 0 ? "timeout " + std::to_string(timeLimitSeconds) + " " : "";
-  const std::string command = limit + IPCONFIG_RW_TOOL + " " + args + " 2>&1";
+  const std::string cd = workingDir.empty() ? "" : "cd '" + workingDir + "' && ";
+  const std::string command = cd + limit + IPCONFIG_RW_TOOL + " " + args + " 2>&1";
   RunResult result{-1, {}};
   FILE* pipe = popen(command.c_str(), "r");
   if (!pipe)
@@ -126,6 +129,23 @@ private:
 
   const char* name_;
   std::optional<std::string> old_;
+};
+
+// A schema of the test's own for the scope, in a data tree at $KVR_ROOT that
+// is searched before the one the library ships. `relative` is its place
+// under the data directory, such as "parts/tarnel/common/noc/schemas/
+// solution.json".
+class ScopedSchema {
+public:
+  ScopedSchema(const std::string& relative, const std::string& text)
+    : kvrRoot_("KVR_ROOT", root_.path().string())
+  {
+    writeFile(root_.file("data/" + relative), text);
+  }
+
+private:
+  TempDir root_;
+  ScopedEnv kvrRoot_;
 };
 
 // What a test expects of one recorded message.

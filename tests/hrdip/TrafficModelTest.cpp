@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace {
 
 using namespace HrdIPToolCntr;
@@ -126,6 +128,40 @@ TEST(TrafficModelTest, ErrorSlavesAreAddedForMemoryMappedMasters)
   EXPECT_EQ(spec.getPath(1)->slave, errorSlave);
   EXPECT_EQ(spec.getPath(2)->slave, hpSlave);
   EXPECT_TRUE(spec.getPath(2)->highPriorityRouting);
+}
+
+// Paths live wherever the allocator puts them, which differs from run to
+// run; the routes must not follow that.
+TEST(TrafficModelTest, RoutesWalkInTheModelsOrderOfNets)
+{
+  TrafficSpec spec;
+  TrafficLInst* mm = spec.addLogicalInstance("mm", Defs::AXI_MM, Defs::PL_NMU, {});
+  TrafficLInst* strm = spec.addLogicalInstance("st", Defs::AXI_STRM, Defs::QPE_NMU, {});
+  TrafficLInst* slave = spec.addLogicalInstance("s", Defs::AXI_MM, Defs::PL_NSU, {});
+  std::vector<const TrafficNet*> modelOrder;
+  for (int index = 0; index < 300; ++index) {
+    const TrafficPath* path = spec.addPath(index % 3 == 0 ? strm : mm, slave);
+    for (int net = 0; net < path->getNumNets(); ++net)
+      modelOrder.push_back(path->getNet(net));
+  }
+  CompRes result;
+  for (auto net = modelOrder.rbegin(); net != modelOrder.rend(); ++net)
+    result.addRoute(*net, {}, 0, 0, false);
+
+  std::vector<const TrafficNet*> walked;
+  for (const auto& entry : result.routes)
+    walked.push_back(entry.first);
+  EXPECT_EQ(walked, modelOrder);
+
+  // A net of another model at the same place is a route of its own.
+  TrafficSpec other;
+  const TrafficPath* twin = other.addPath(
+      other.addLogicalInstance("mm", Defs::AXI_MM, Defs::PL_NMU, {}),
+      other.addLogicalInstance("s", Defs::AXI_MM, Defs::PL_NSU, {}));
+  result.addRoute(twin->getNet(0), {}, 3, 0, false);
+  EXPECT_EQ(result.routes.size(), modelOrder.size() + 1);
+  EXPECT_EQ(result.getRouteForNet(twin->getNet(0))->vc, 3);
+  EXPECT_EQ(result.getRouteForNet(modelOrder[0])->vc, 0);
 }
 
 }  // namespace

@@ -289,6 +289,27 @@ TEST_F(NOCJsonSolutionWriterTest, AWrittenSolutionReadsBackAndWritesTheSameBytes
   EXPECT_EQ(last.str(), second.str());
 }
 
+TEST_F(NOCJsonSolutionWriterTest, ADocumentFailingTheSchemaLeavesTheFileUpToTheFailingValue)
+{
+  const ScopedSchema schema("parts/tarnel/common/noc/schemas/solution.json",
+                            R"({"properties": {"Paths": {"items": {"properties": {
+                  "ToLocked": {"enum": [true]}}}}}})");
+  const TempDir dir;
+  EXPECT_FALSE(NOC::NOCJsonSolutionWriter().writeToJsonFile(dir.file("out.json"), spec, result,
+                                                            status, false));
+  EXPECT_EQ(readFile(dir.file("out.json")), R"({
+  "SolutionType": "SUBOPTIMAL",
+  "LockAllDestIds": true,
+  "Paths": [
+    {
+      "Phase": 3,
+      "From": "m",
+      "FromLocked": true,
+      "To": "s",
+      "ToLocked")");
+  expectSent({{"@75-585@%s", ComMsgMgr::Error, {"NoC Solution"}}});
+}
+
 TEST(NOCJsonSolutionWriterNames, VirtualNameIsTheFirstConnectionInScope)
 {
   TrafficSpec spec;

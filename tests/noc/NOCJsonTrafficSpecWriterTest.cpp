@@ -462,10 +462,8 @@ TEST_F(NOCJsonTrafficSpecWriterTest, FilterDropsInstancesWithTheirPaths)
 
 TEST_F(NOCJsonTrafficSpecWriterTest, DocumentFailingTheSchemaStopsTheTextAndGivesFalse)
 {
-  const TempDir root;
-  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
-  writeFile(root.file("data/parts/tarnel/common/noc/schemas/traffic.json"),
-            R"({"properties": {"SystemProperties": {"properties": {
+  const ScopedSchema schema("parts/tarnel/common/noc/schemas/traffic.json",
+                            R"({"properties": {"SystemProperties": {"properties": {
                   "DeviceName": {"type": "string", "maxLength": 2}}}}})");
   spec.setFrequency(800, true);
   spec.deviceName = "dev";

@@ -314,6 +314,24 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return info.param.name; });
 
 // Graphviz itself accepts the pictures of the examples.
+// The compiler's solution takes its written form at the first write, the same
+// bytes whether the files are named by absolute or by relative paths.
+TEST(IpconfigRwSolutionTest, TheFirstWriteIsTheWrittenFormFromAnyPathForm)
+{
+  const TempDir dir;
+  const std::string examples = IPCONFIG_RW_EXAMPLES_DIR;
+  const std::string written = readFile(examples + "/solution_written.json");
+  const RunResult absolute = runTool("solution roundtrip " + examples + "/traffic.json " +
+                                     examples + "/solution.json " + dir.file("absolute.json"));
+  ASSERT_EQ(absolute.exitCode, 0) << absolute.output;
+  EXPECT_EQ(readFile(dir.file("absolute.json")), written);
+  const RunResult relative =
+      runTool("solution roundtrip traffic.json solution.json " + dir.file("relative.json"),
+              0, examples);
+  ASSERT_EQ(relative.exitCode, 0) << relative.output;
+  EXPECT_EQ(readFile(dir.file("relative.json")), written);
+}
+
 TEST(IpconfigRwDotTest, GraphvizRendersThePictures)
 {
   if (runTool("--help > /dev/null && command -v dot").exitCode != 0)

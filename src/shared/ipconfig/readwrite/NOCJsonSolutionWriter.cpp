@@ -17,7 +17,6 @@
 #include "TrafficSpec.h"
 
 #include <set>
-#include <unordered_set>
 
 namespace NOC {
 
@@ -63,6 +62,14 @@ bool isLockedPlacement(const CompRes& result, const TrafficLInst* instance)
 {
   const auto placement = result.placements.find(instance);
   return placement != result.placements.end() && placement->second.second;
+}
+
+bool hasRoute(const CompRes& result, const TrafficPath& path)
+{
+  for (int net = 0; net < path.getNumNets(); ++net)
+    if (result.getRouteForNet(path.getNet(net)) != nullptr)
+      return true;
+  return false;
 }
 
 const std::set<std::string>& phasesOf(const TrafficSpec& spec, const std::string& group)
@@ -132,23 +139,14 @@ std::string NOCJsonSolutionWriter::endName_(const TrafficLInst& instance,
 
 std::vector<const TrafficPath*> NOCJsonSolutionWriter::routedPaths_(const Context& context)
 {
-  // Only routes of this model's nets count: a CompRes may hold others.
-  std::unordered_set<const TrafficNet*> routedNets;
-  for (int index = 0; index < context.spec.getNumPaths(); ++index) {
-    const TrafficPath& path = *context.spec.getPath(index);
-    for (int net = 0; net < path.getNumNets(); ++net)
-      if (context.result.getRouteForNet(path.getNet(net)) != nullptr)
-        routedNets.insert(path.getNet(net));
-  }
+  // The routes are kept in the model's order of nets, so the paths of their
+  // first routes come in path order; routes of nets from another model do
+  // not count.
   std::vector<const TrafficPath*> paths;
-  std::unordered_set<const TrafficPath*> taken;
-  for (const auto& entry : context.result.routes) {
-    if (routedNets.count(entry.first) == 0)
-      continue;
-    const TrafficPath* path = entry.first->path;
-    if (!context.filter(path->master) || !context.filter(path->slave))
-      continue;
-    if (taken.insert(path).second)
+  for (int index = 0; index < context.spec.getNumPaths(); ++index) {
+    const TrafficPath* path = context.spec.getPath(index);
+    if (hasRoute(context.result, *path) && context.filter(path->master) &&
+        context.filter(path->slave))
       paths.push_back(path);
   }
   return paths;

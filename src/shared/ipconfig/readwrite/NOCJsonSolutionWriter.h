@@ -59,7 +59,7 @@ private:
   struct Context;
 
   // The paths with a routed net whose ends the filter keeps, in the order of
-  // their first route.
+  // their first route, which is the model's order.
   static std::vector<const HrdIPToolCntr::TrafficPath*> routedPaths_(const Context& context);
 
   static void writeSolutionType_(const Context& context, JValue& root, JAllocator& alloc);
