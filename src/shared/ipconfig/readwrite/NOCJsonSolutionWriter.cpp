@@ -64,14 +64,6 @@ bool isLockedPlacement(const CompRes& result, const TrafficLInst* instance)
   return placement != result.placements.end() && placement->second.second;
 }
 
-bool hasRoute(const CompRes& result, const TrafficPath& path)
-{
-  for (int net = 0; net < path.getNumNets(); ++net)
-    if (result.getRouteForNet(path.getNet(net)) != nullptr)
-      return true;
-  return false;
-}
-
 const std::set<std::string>& phasesOf(const TrafficSpec& spec, const std::string& group)
 {
   static const std::set<std::string> none;
@@ -137,21 +129,6 @@ std::string NOCJsonSolutionWriter::endName_(const TrafficLInst& instance,
   return NOCJsonScopedNames::instanceName(resolver, instance);
 }
 
-std::vector<const TrafficPath*> NOCJsonSolutionWriter::routedPaths_(const Context& context)
-{
-  // The routes are kept in the model's order of nets, so the paths of their
-  // first routes come in path order; routes of nets from another model do
-  // not count.
-  std::vector<const TrafficPath*> paths;
-  for (int index = 0; index < context.spec.getNumPaths(); ++index) {
-    const TrafficPath* path = context.spec.getPath(index);
-    if (hasRoute(context.result, *path) && context.filter(path->master) &&
-        context.filter(path->slave))
-      paths.push_back(path);
-  }
-  return paths;
-}
-
 void NOCJsonSolutionWriter::writeSolutionType_(const Context& context, JValue& root,
                                                JAllocator& alloc)
 {
@@ -174,37 +151,51 @@ void NOCJsonSolutionWriter::writeLogicalInstances_(const Context& context, JValu
 
 void NOCJsonSolutionWriter::writePaths_(const Context& context, JValue& root, JAllocator& alloc)
 {
-  const std::vector<const TrafficPath*> paths = routedPaths_(context);
+  // The routes are kept in the model's order of nets: the routes of a path
+  // are one run of them, and the runs come in path order. Routes of nets
+  // from another model are passed over.
   JValue array(rapidjson::kArrayType);
-  array.Reserve(static_cast<rapidjson::SizeType>(paths.size()), alloc);
-  for (const TrafficPath* path : paths)
-    array.PushBack(writePath_(*path, context, alloc), alloc);
+  const CompRes::Routes& routes = context.result.routes;
+  RoutedNets nets;
+  for (auto entry = routes.begin(); entry != routes.end();) {
+    const int pathIndex = entry->first->path->getIndex();
+    nets.clear();
+    for (; entry != routes.end() && entry->first->path->getIndex() == pathIndex; ++entry)
+      if (&entry->first->path->getSpec() == &context.spec)
+        nets.emplace_back(entry->first, &entry->second);
+    if (nets.empty())
+      continue;
+    const TrafficPath& path = *nets.front().first->path;
+    if (context.filter(path.master) && context.filter(path.slave))
+      array.PushBack(writePath_(path, nets, context, alloc), alloc);
+  }
   Json::AddGenericValueProperty(root, "Paths", array, alloc);
 }
 
-JValue NOCJsonSolutionWriter::writePath_(const TrafficPath& path, const Context& context,
-                                         JAllocator& alloc)
+JValue NOCJsonSolutionWriter::writePath_(const TrafficPath& path, const RoutedNets& nets,
+                                         const Context& context, JAllocator& alloc)
 {
   const CompRes& result = context.result;
   const TrafficPath::PerfSpec& read = path.getReadPerfSpec();
   const TrafficPath::PerfSpec& write = path.getWritePerfSpec();
 
   // In phase mode the required bandwidth is that of the phase which limited
-  // the last routed net of the direction.
-  const auto limitingPhase = [&](TrafficNet::NetType type) {
+  // the path's last net of the direction, if that net is routed.
+  const auto limitingPhase = [&](TrafficNet::NetType type) -> const std::string* {
     const TrafficNet* last = nullptr;
     for (int index = 0; index < path.getNumNets(); ++index)
       if (path.getNet(index)->type == type)
         last = path.getNet(index);
-    const Route* route = last != nullptr ? result.getRouteForNet(last) : nullptr;
-    return result.phaseMode && route != nullptr ? route->limitingPhase : std::string();
+    for (const auto& [net, route] : nets)
+      if (net == last && result.phaseMode && !route->limitingPhase.empty())
+        return &route->limitingPhase;
+    return nullptr;
   };
-  const std::string readPhase = limitingPhase(TrafficNet::READ);
-  const std::string writePhase = limitingPhase(TrafficNet::WRITE);
-  const unsigned readBw =
-      readPhase.empty() ? read.bandwidth : path.getReadPerfSpec(readPhase).bandwidth;
+  const std::string* readPhase = limitingPhase(TrafficNet::READ);
+  const std::string* writePhase = limitingPhase(TrafficNet::WRITE);
+  const unsigned readBw = readPhase ? path.getReadPerfSpec(*readPhase).bandwidth : read.bandwidth;
   const unsigned writeBw =
-      writePhase.empty() ? write.bandwidth : path.getWritePerfSpec(writePhase).bandwidth;
+      writePhase ? path.getWritePerfSpec(*writePhase).bandwidth : write.bandwidth;
 
   // An unknown read figure is written as asked for, an unknown write one as
   // -1, which the reader takes for 0.
@@ -216,6 +207,10 @@ JValue NOCJsonSolutionWriter::writePath_(const TrafficPath& path, const Context&
   const long writeAchievedBw = writeAchieved != result.writeLatencyBw.end()
                                    ? static_cast<long>(writeAchieved->second.second)
                                    : -1L;
+  // A path is locked when the route of any of its nets is.
+  bool locked = false;
+  for (const auto& routed : nets)
+    locked = locked || routed.second->locked;
 
   JValue object(rapidjson::kObjectType);
   Json::AddIntegrProperty(object, "Phase", path.phase, alloc);
@@ -234,13 +229,16 @@ JValue NOCJsonSolutionWriter::writePath_(const TrafficPath& path, const Context&
   object.AddMember("WriteAchievedBW", JValue(static_cast<int64_t>(writeAchievedBw)), alloc);
   Json::AddULongProperty(object, "ReadLatency", read.latency, alloc);
   Json::AddULongProperty(object, "WriteLatency", write.latency, alloc);
-  Json::AddULongProperty(object, "ReadBestPossibleLatency", read.latency, alloc);
-  Json::AddULongProperty(object, "WriteBestPossibleLatency", write.latency, alloc);
-  Json::AddBooleanProperty(object, "PathLocked", result.isLocked(&path), alloc);
+  // Keys too long to sit inside a value are referred to, not copied: with no
+  // allocation between them, the path's members grow in place.
+  object.AddMember("ReadBestPossibleLatency", JValue(static_cast<uint64_t>(read.latency)), alloc);
+  object.AddMember("WriteBestPossibleLatency", JValue(static_cast<uint64_t>(write.latency)),
+                   alloc);
+  Json::AddBooleanProperty(object, "PathLocked", locked, alloc);
   if (context.full)
     Json::AddBooleanProperty(object, "InitialBoot", path.initialBoot, alloc);
   writePathPhaseGroups_(path, context, object, alloc);
-  writeNets_(path, context, object, alloc);
+  writeNets_(nets, context, object, alloc);
   return object;
 }
 
@@ -282,18 +280,16 @@ void NOCJsonSolutionWriter::writePathPhaseGroups_(const TrafficPath& path, const
   Json::AddGenericValueProperty(object, "PhaseGroups", groups, alloc);
 }
 
-void NOCJsonSolutionWriter::writeNets_(const TrafficPath& path, const Context& context,
+void NOCJsonSolutionWriter::writeNets_(const RoutedNets& nets, const Context& context,
                                        JValue& object, JAllocator& alloc)
 {
-  JValue nets(rapidjson::kArrayType);
-  for (int index = 0; index < path.getNumNets(); ++index) {
-    const TrafficNet& net = *path.getNet(index);
-    const Route* route = context.result.getRouteForNet(&net);
+  JValue array(rapidjson::kArrayType);
+  array.Reserve(static_cast<rapidjson::SizeType>(nets.size()), alloc);
+  for (const auto& [net, route] : nets)
     // A route needs a start and an end link to be read back.
-    if (route != nullptr && route->links.size() >= 2)
-      nets.PushBack(writeNet_(net, *route, context, alloc), alloc);
-  }
-  Json::AddGenericValueProperty(object, "Nets", nets, alloc);
+    if (route->links.size() >= 2)
+      array.PushBack(writeNet_(*net, *route, context, alloc), alloc);
+  Json::AddGenericValueProperty(object, "Nets", array, alloc);
 }
 
 JValue NOCJsonSolutionWriter::writeNet_(const TrafficNet& net, const Route& route,
@@ -311,15 +307,17 @@ JValue NOCJsonSolutionWriter::writeNet_(const TrafficNet& net, const Route& rout
                           route.links.back()->getSecondComponent()->getName(), alloc);
   Json::AddULongProperty(object, "VC", route.vc, alloc);
   Json::AddStringProperty(object, "CommType", netTypeText(net.type), alloc);
+  // The device outlives the document, so its names are referred to, not
+  // copied.
   JValue connections(rapidjson::kArrayType);
   connections.Reserve(static_cast<rapidjson::SizeType>(route.links.size() * 4), alloc);
   for (const DevHrdIP::Link* link : route.links)
     for (const std::string* text :
          {&link->getFirstComponent()->getName(), &link->getFirstPort(),
           &link->getSecondComponent()->getName(), &link->getSecondPort()})
-      connections.PushBack(JValue(text->c_str(), static_cast<rapidjson::SizeType>(text->size()),
-                                  alloc),
-                           alloc);
+      connections.PushBack(
+          JValue(rapidjson::StringRef(text->c_str(), static_cast<rapidjson::SizeType>(text->size()))),
+          alloc);
   Json::AddGenericValueProperty(object, "Connections", connections, alloc);
   Json::AddULongProperty(object, "RequiredBW", requiredBw, alloc);
   Json::AddULongProperty(object, "AchievedBW", route.achievedBw, alloc);
@@ -366,18 +364,18 @@ void NOCJsonSolutionWriter::writeComponents_(const Context& context, JValue& roo
       const std::string instanceName =
           instance != nullptr ? endName_(*instance, context.resolver) : std::string();
       const bool controller = isMemoryController(component->getType());
-      const std::vector<const DevHrdIP::Component*> candidates =
-          controller ? component->getSubComponents()
-                     : std::vector<const DevHrdIP::Component*>{component};
-      for (std::size_t index = 0; index < candidates.size(); ++index) {
-        if (!result.hasDestIdForComponent(candidates[index]))
+      const std::size_t candidates = controller ? component->getSubComponents().size() : 1;
+      for (std::size_t index = 0; index < candidates; ++index) {
+        const DevHrdIP::Component* candidate =
+            controller ? component->getSubComponents()[index] : component;
+        if (!result.hasDestIdForComponent(candidate))
           continue;
         JValue element(rapidjson::kObjectType);
         Json::AddStringProperty(element, "Name", component->getName(), alloc);
         if (instance != nullptr)
           Json::AddStringProperty(element, "TrafficLInst", instanceName, alloc);
         Json::AddIntegrProperty(element, "DestId",
-                                result.getDestIdForComponent(candidates[index]).getValue(),
+                                result.getDestIdForComponent(candidate).getValue(),
                                 alloc);
         if (controller)
           Json::AddIntegrProperty(element, "PortIndex", static_cast<int>(index), alloc);

@@ -6,6 +6,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <utility>
 #include <vector>
 
 class HDGUIStatus;
@@ -57,22 +58,21 @@ public:
 
 private:
   struct Context;
-
-  // The paths with a routed net whose ends the filter keeps, in the order of
-  // their first route, which is the model's order.
-  static std::vector<const HrdIPToolCntr::TrafficPath*> routedPaths_(const Context& context);
+  // The routed nets of one path, in the order of its nets.
+  using RoutedNets =
+      std::vector<std::pair<const HrdIPToolCntr::TrafficNet*, const HrdIPToolCntr::Route*>>;
 
   static void writeSolutionType_(const Context& context, JValue& root, JAllocator& alloc);
   static void writeLogicalInstances_(const Context& context, JValue& root, JAllocator& alloc);
   static void writePaths_(const Context& context, JValue& root, JAllocator& alloc);
   static void writeComponents_(const Context& context, JValue& root, JAllocator& alloc);
 
-  static JValue writePath_(const HrdIPToolCntr::TrafficPath& path, const Context& context,
-                           JAllocator& alloc);
+  static JValue writePath_(const HrdIPToolCntr::TrafficPath& path, const RoutedNets& nets,
+                           const Context& context, JAllocator& alloc);
   static void writePathPhaseGroups_(const HrdIPToolCntr::TrafficPath& path,
                                     const Context& context, JValue& object, JAllocator& alloc);
-  static void writeNets_(const HrdIPToolCntr::TrafficPath& path, const Context& context,
-                         JValue& object, JAllocator& alloc);
+  static void writeNets_(const RoutedNets& nets, const Context& context, JValue& object,
+                         JAllocator& alloc);
   static JValue writeNet_(const HrdIPToolCntr::TrafficNet& net,
                           const HrdIPToolCntr::Route& route, const Context& context,
                           JAllocator& alloc);
