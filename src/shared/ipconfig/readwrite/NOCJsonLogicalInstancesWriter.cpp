@@ -2,10 +2,10 @@
 
 #include "HIPLogicalObjectNameResolverInterface.h"
 #include "NOCJsonHexAddresses.h"
+#include "NOCJsonReadWriteUtils.h"
 #include "NOCJsonScopedNames.h"
 #include "TrafficLInst.h"
 
-#include <map>
 #include <string>
 
 namespace NOC {
@@ -13,37 +13,14 @@ namespace NOC {
 namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
+using Utils = NOCJsonReadWriteUtils;
 using HrdIPToolCntr::TrafficLInst;
 namespace Defs = DevHrdIP::Definitions;
-
-void addIfSet(JValue& object, const char* key, bool value, JAllocator& alloc)
-{
-  if (value)
-    Json::AddBooleanProperty(object, key, true, alloc);
-}
 
 void addIfNotZero(JValue& object, const char* key, unsigned long value, JAllocator& alloc)
 {
   if (value != 0)
     Json::AddULongProperty(object, key, value, alloc);
-}
-
-void addIfNotEmpty(JValue& object, const char* key, const std::string& value, JAllocator& alloc)
-{
-  if (!value.empty())
-    Json::AddStringProperty(object, key, value, alloc);
-}
-
-// A map of names to texts as an object, in the map's sorted order.
-void addIfNotEmpty(JValue& object, const char* key, const std::map<std::string, std::string>& map,
-                   JAllocator& alloc)
-{
-  if (map.empty())
-    return;
-  JValue members(rapidjson::kObjectType);
-  for (const auto& [name, value] : map)
-    Json::AddStringProperty(members, name, value, alloc);
-  Json::AddGenericValueProperty(object, key, members, alloc);
 }
 
 }  // namespace
@@ -71,13 +48,13 @@ JValue NOCJsonLogicalInstancesWriter::writeLogicalInstance_(
 
   JValue object(rapidjson::kObjectType);
   Json::AddStringProperty(object, "Name", outside ? conn.firstName : writtenName, alloc);
-  addIfNotEmpty(object, "DesignName", instance.designName, alloc);
+  Utils::addIfNotEmpty(object, "DesignName", instance.designName, alloc);
   Json::AddBooleanProperty(object, "IsMaster", instance.isMaster, alloc);
-  addIfSet(object, "UseDestIdIdx", instance.useDestIdIdx, alloc);
-  addIfSet(object, "HasParityAddr", instance.hasParityAddr(), alloc);
-  addIfSet(object, "HasParityData", instance.hasParityData(), alloc);
+  Utils::addIfSet(object, "UseDestIdIdx", instance.useDestIdIdx, alloc);
+  Utils::addIfSet(object, "HasParityAddr", instance.hasParityAddr(), alloc);
+  Utils::addIfSet(object, "HasParityData", instance.hasParityData(), alloc);
   Json::AddStringProperty(object, "CompType", Defs::toStr(instance.compType), alloc);
-  addIfSet(object, "Firewall", instance.firewall, alloc);
+  Utils::addIfSet(object, "Firewall", instance.firewall, alloc);
   Json::AddStringProperty(object, "Protocol",
                           instance.protocol == Defs::AXI_MM ? "AXI_MM" : "AXI_STRM", alloc);
   writeTrafficClasses_(instance, object, alloc);
@@ -87,11 +64,11 @@ JValue NOCJsonLogicalInstancesWriter::writeLogicalInstance_(
   writeInterleave_(instance, object, alloc);
   writeAddresses_(instance, object, alloc);
   writeParams_(instance, object, alloc);
-  addIfSet(object, "IsVirtual", instance.isVirtual || outside, alloc);
+  Utils::addIfSet(object, "IsVirtual", instance.isVirtual || outside, alloc);
   writeSimMetaData_(instance, object, alloc);
   if (instance.hasDestId)
     Json::AddIntegrProperty(object, "DestId", instance.destId, alloc);
-  addIfNotEmpty(object, "ExternalConn", conn.text, alloc);
+  Utils::addIfNotEmpty(object, "ExternalConn", conn.text, alloc);
   return object;
 }
 
@@ -146,8 +123,8 @@ void NOCJsonLogicalInstancesWriter::writeAddresses_(const TrafficLInst& instance
 void NOCJsonLogicalInstancesWriter::writeParams_(const TrafficLInst& instance, JValue& object,
                                                  JAllocator& alloc)
 {
-  addIfNotEmpty(object, "MemoryParams", instance.memoryParams, alloc);
-  addIfNotEmpty(object, "ConfigParams", instance.configParams, alloc);
+  Utils::addIfNotEmpty(object, "MemoryParams", instance.memoryParams, alloc);
+  Utils::addIfNotEmpty(object, "ConfigParams", instance.configParams, alloc);
 }
 
 void NOCJsonLogicalInstancesWriter::writeSimMetaData_(const TrafficLInst& instance,

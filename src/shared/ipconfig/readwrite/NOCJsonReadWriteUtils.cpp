@@ -91,4 +91,38 @@ void NOCJsonReadWriteUtils::issueInvalidPortType(const std::string& port)
   IPCONFIG_SEND_MSG(ComMsgMgr::CriticalWarning, "@73-448@%s", port);
 }
 
+void NOCJsonReadWriteUtils::addIfSet(JValue& object, const char* key, bool value,
+                                     JAllocator& alloc)
+{
+  if (value)
+    HCRapidJsonReadWriteUtils::AddBooleanProperty(object, key, true, alloc);
+}
+
+void NOCJsonReadWriteUtils::addIfNotEmpty(JValue& object, const char* key,
+                                          const std::string& value, JAllocator& alloc)
+{
+  if (!value.empty())
+    HCRapidJsonReadWriteUtils::AddStringProperty(object, key, value, alloc);
+}
+
+void NOCJsonReadWriteUtils::addIfNotEmpty(JValue& object, const char* key,
+                                          const std::vector<std::string>& values,
+                                          JAllocator& alloc)
+{
+  if (!values.empty())
+    HCRapidJsonReadWriteUtils::AddStringArrayProperty(object, key, values, alloc);
+}
+
+void NOCJsonReadWriteUtils::addIfNotEmpty(JValue& object, const char* key,
+                                          const std::map<std::string, std::string>& map,
+                                          JAllocator& alloc)
+{
+  if (map.empty())
+    return;
+  JValue members(rapidjson::kObjectType);
+  for (const auto& [name, value] : map)
+    HCRapidJsonReadWriteUtils::AddStringProperty(members, name, value, alloc);
+  HCRapidJsonReadWriteUtils::AddGenericValueProperty(object, key, members, alloc);
+}
+
 }  // namespace NOC

@@ -20,6 +20,7 @@ namespace NOC {
 namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
+using Utils = NOCJsonReadWriteUtils;
 using HrdIPToolCntr::TrafficLInst;
 using HrdIPToolCntr::TrafficPath;
 using HrdIPToolCntr::TrafficSpec;
@@ -53,18 +54,6 @@ const char* commType(const TrafficPath& path)
   return "MM_ReadWrite";
 }
 
-void addIfSet(JValue& object, const char* key, bool value, JAllocator& alloc)
-{
-  if (value)
-    Json::AddBooleanProperty(object, key, true, alloc);
-}
-
-void addIfNotEmpty(JValue& object, const char* key, const std::string& value, JAllocator& alloc)
-{
-  if (!value.empty())
-    Json::AddStringProperty(object, key, value, alloc);
-}
-
 }  // namespace
 
 bool NOCJsonTrafficSpecWriter::writeToJsonFile(std::ostream& out, const TrafficSpec& spec,
@@ -82,7 +71,7 @@ bool NOCJsonTrafficSpecWriter::writeToJsonFile(std::ostream& out, const TrafficS
   NOCJsonLogicalInstancesWriter::addLogicalInstances(instances, filter, resolver, document, alloc);
   writePaths_(spec, filter, resolver, document, alloc);
   return JsonFileFrame::writeValidated(document, out,
-                                       NOCJsonReadWriteUtils::getTrafficJsonSchemaFile(),
+                                       Utils::getTrafficJsonSchemaFile(),
                                        "NoC Traffic Spec");
 }
 
@@ -142,8 +131,8 @@ void NOCJsonTrafficSpecWriter::writeSystemProperties_(
   std::string scopeName;
   if (!spec.getDfxPaths().empty() && !resolver.getScopeName(scopeName))
     Json::AddStringArrayProperty(properties, "DfxPaths", spec.getDfxPaths(), alloc);
-  addIfSet(properties, "SECURE_SLR_PMC_TRAFFIC", spec.secureMode, alloc);
-  addIfNotEmpty(properties, "DeviceName", spec.deviceName, alloc);
+  Utils::addIfSet(properties, "SECURE_SLR_PMC_TRAFFIC", spec.secureMode, alloc);
+  Utils::addIfNotEmpty(properties, "DeviceName", spec.deviceName, alloc);
   if (properties.MemberCount() != 0)
     Json::AddGenericValueProperty(root, "SystemProperties", properties, alloc);
 }
@@ -211,11 +200,11 @@ void NOCJsonTrafficSpecWriter::writeRouting_(const TrafficPath& path, JValue& ob
 {
   if (path.writeOrder != Defs::WO_INVALID)
     Json::AddStringProperty(object, "WriteOrder", Defs::toStr(path.writeOrder), alloc);
-  addIfNotEmpty(object, "ExclusiveGroup", path.exclusiveGroup, alloc);
-  addIfNotEmpty(object, "SeparateRoutingGroup", path.separateRoutingGroup, alloc);
+  Utils::addIfNotEmpty(object, "ExclusiveGroup", path.exclusiveGroup, alloc);
+  Utils::addIfNotEmpty(object, "SeparateRoutingGroup", path.separateRoutingGroup, alloc);
   if (path.hasDestIdIndex)
     Json::AddIntegrProperty(object, "DestIdIndex", path.destIdIndex, alloc);
-  addIfSet(object, "InitialBoot", path.initialBoot, alloc);
+  Utils::addIfSet(object, "InitialBoot", path.initialBoot, alloc);
   if (path.hasValidDestIdIdx(0)) {
     JValue ranges(rapidjson::kArrayType);
     for (int i = 0; path.hasValidDestIdIdx(i); ++i) {
@@ -226,7 +215,7 @@ void NOCJsonTrafficSpecWriter::writeRouting_(const TrafficPath& path, JValue& ob
     }
     Json::AddGenericValueProperty(object, "DestIdIdx", ranges, alloc);
   }
-  addIfSet(object, "HighPriorityRouting", path.highPriorityRouting, alloc);
+  Utils::addIfSet(object, "HighPriorityRouting", path.highPriorityRouting, alloc);
 }
 
 void NOCJsonTrafficSpecWriter::writePhaseGroups_(const TrafficPath& path, JValue& object,

@@ -15,6 +15,7 @@ namespace IPConfig::Frameworks {
 namespace {
 
 using Json = HCRapidJsonReadWriteUtils;
+using Utils = NOC::NOCJsonReadWriteUtils;
 using Vocabulary = ZXLogicalArchVocabulary;
 
 bool isWritten(const std::string& name, const std::string& prefix)
@@ -30,19 +31,6 @@ std::string keyOf(std::string name, const std::string& prefix)
   boost::algorithm::replace_first(name, prefix, "");
   boost::algorithm::replace_first(name, "/", "");
   return name;
-}
-
-void addIfNotEmpty(JValue& object, const char* key, const std::string& value, JAllocator& alloc)
-{
-  if (!value.empty())
-    Json::AddStringProperty(object, key, value, alloc);
-}
-
-void addIfNotEmpty(JValue& object, const char* key, const std::vector<std::string>& values,
-                   JAllocator& alloc)
-{
-  if (!values.empty())
-    Json::AddStringArrayProperty(object, key, values, alloc);
 }
 
 // The text of a value that is not `unset`.
@@ -67,16 +55,14 @@ void saveLogicalPortProperties(const ZXLogicalPort& port, JValue& object, JAlloc
   Json::AddULongProperty(object, "parameterIndex", port.parameterIndex, alloc);
   if (port.clkFreq > 0.0)
     Json::AddDoubleProperty(object, "clkFreq", port.clkFreq, alloc);
-  if (port.registeredInterface)
-    Json::AddBooleanProperty(object, "registeredInterface", true, alloc);
-  if (port.tracedInterface)
-    Json::AddBooleanProperty(object, "tracedInterface", true, alloc);
-  addIfNotEmpty(object, "traceFile", port.traceFile, alloc);
-  addIfNotEmpty(object, "annotation", port.annotation, alloc);
-  addIfNotEmpty(object, "hw_annotation", port.hw_annotation, alloc);
-  addIfNotEmpty(object, "sdfioName", port.sdfioName, alloc);
-  addIfNotEmpty(object, "vlnvName", port.vlnvName, alloc);
-  addIfNotEmpty(object, "qpechannel", port.qpechannel, alloc);
+  Utils::addIfSet(object, "registeredInterface", port.registeredInterface, alloc);
+  Utils::addIfSet(object, "tracedInterface", port.tracedInterface, alloc);
+  Utils::addIfNotEmpty(object, "traceFile", port.traceFile, alloc);
+  Utils::addIfNotEmpty(object, "annotation", port.annotation, alloc);
+  Utils::addIfNotEmpty(object, "hw_annotation", port.hw_annotation, alloc);
+  Utils::addIfNotEmpty(object, "sdfioName", port.sdfioName, alloc);
+  Utils::addIfNotEmpty(object, "vlnvName", port.vlnvName, alloc);
+  Utils::addIfNotEmpty(object, "qpechannel", port.qpechannel, alloc);
 }
 
 // Endpoints keep their instance outside the prefix, with the same two removals.
@@ -117,9 +103,9 @@ void saveLogicalConnectionProperties(const ZXLogicalConnection& connection,
 template <typename Instance>
 void saveLeadingFields(const Instance& instance, JValue& object, JAllocator& alloc)
 {
-  addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
-  addIfNotEmpty(object, "annotation", instance.annotation, alloc);
-  addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+  Utils::addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+  Utils::addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+  Utils::addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
 }
 
 // A section with one member per instance that `getInstances` gives and the
@@ -198,17 +184,17 @@ bool ZXLogicalArchWriter::writeToJsonFile_(const std::string& prefix, std::ostre
   writePLInstances_(prefix, model, document, alloc);
   writeConnections_(prefix, model, document, alloc);
   JsonFileFrame::writeThroughSchema(document, out,
-                                    NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile());
+                                    Utils::getLogicalArchJsonSchemaFile());
   return true;
 }
 
 void ZXLogicalArchWriter::writeProperties_(const ZXLogicalArchModel& model, JValue& root,
                                            JAllocator& alloc)
 {
-  addIfNotEmpty(root, "appId", model.getAppId(), alloc);
-  addIfNotEmpty(root, "schema", model.getSchema(), alloc);
-  addIfNotEmpty(root, "device", model.getDevice(), alloc);
-  addIfNotEmpty(root, "platform", model.getPlatform(), alloc);
+  Utils::addIfNotEmpty(root, "appId", model.getAppId(), alloc);
+  Utils::addIfNotEmpty(root, "schema", model.getSchema(), alloc);
+  Utils::addIfNotEmpty(root, "device", model.getDevice(), alloc);
+  Utils::addIfNotEmpty(root, "platform", model.getPlatform(), alloc);
 }
 
 void ZXLogicalArchWriter::writeZXInstances_(const std::string& prefix,
@@ -219,7 +205,7 @@ void ZXLogicalArchWriter::writeZXInstances_(const std::string& prefix,
       model, &ZXLogicalArchModel::getZXIPInstances, "QPE", "qpeshimPorts", prefix, root, alloc,
       [&](const ZXLogicalZXIPInstance& instance, JValue& object) {
         saveLeadingFields(instance, object, alloc);
-        addIfNotEmpty(object, "logical_device", instance.logical_device, alloc);
+        Utils::addIfNotEmpty(object, "logical_device", instance.logical_device, alloc);
       });
 }
 
@@ -243,11 +229,11 @@ void ZXLogicalArchWriter::writePLInstances_(const std::string& prefix,
   writeSection(
       model, &ZXLogicalArchModel::getPLIPInstances, "PL", "plPorts", prefix, root, alloc,
       [&](const ZXLogicalPLIPInstance& instance, JValue& object) {
-        addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
-        addIfNotEmpty(object, "ckernelName", instance.ckernelName, alloc);
-        addIfNotEmpty(object, "sdfinstName", instance.sdfinstName, alloc);
-        addIfNotEmpty(object, "annotation", instance.annotation, alloc);
-        addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
+        Utils::addIfNotEmpty(object, "vlnvName", instance.vlnvName, alloc);
+        Utils::addIfNotEmpty(object, "ckernelName", instance.ckernelName, alloc);
+        Utils::addIfNotEmpty(object, "sdfinstName", instance.sdfinstName, alloc);
+        Utils::addIfNotEmpty(object, "annotation", instance.annotation, alloc);
+        Utils::addIfNotEmpty(object, "hw_annotation", instance.hw_annotation, alloc);
       });
 }
 
