@@ -18,8 +18,8 @@ public:
   enum NetType { READ = 0, WRITE = 1, READ_REQ = 2, WRITE_RESP = 3 };
 
   // Orders nets by their place in the model: their path's index in the
-  // spec, then their own index in the path. Maps keyed by net walk in the
-  // same order on every run, whatever the addresses. Nets of different
+  // TrafficSpec, then their own index in the path. Maps keyed by net walk in
+  // the same order on every run, whatever the addresses. Nets of different
   // models that share a place fall back to their addresses.
   struct ModelOrder {
     bool operator()(const TrafficNet* left, const TrafficNet* right) const;

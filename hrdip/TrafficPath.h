@@ -94,7 +94,7 @@ public:
   int getNumNets() const { return static_cast<int>(nets.size()); }
 
   const TrafficSpec& getSpec() const { return spec; }
-  // The path's index in its spec (TrafficSpec::getPath).
+  // The path's index in its TrafficSpec (TrafficSpec::getPath).
   int getIndex() const { return index; }
 
 private:
