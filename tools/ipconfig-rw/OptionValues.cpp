@@ -31,4 +31,16 @@ int parseInt(const std::string& option, const std::string& text)
   return static_cast<int>(parseNumber(option, text, INT_MIN, INT_MAX));
 }
 
+Option partitionStartOption()
+{
+  return {"partition-start", "N",
+          "first column of the partition; with --partition-size -1 too, the array's", "-1"};
+}
+
+Option partitionSizeOption()
+{
+  return {"partition-size", "N",
+          "number of columns of the partition; with --partition-start -1 too, the array's", "-1"};
+}
+
 }  // namespace ipconfig_rw

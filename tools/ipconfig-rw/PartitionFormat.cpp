@@ -78,13 +78,8 @@ Format partitionFormat()
                {
                    {"array-start", "N", "first column of the array", std::nullopt},
                    {"array-size", "N", "number of columns of the array", std::nullopt},
-                   {"partition-start", "N",
-                    "first column of the partition; with --partition-size -1 too, the array's",
-                    "-1"},
-                   {"partition-size", "N",
-                    "number of columns of the partition; with --partition-start -1 too, the "
-                    "array's",
-                    "-1"},
+                   partitionStartOption(),
+                   partitionSizeOption(),
                    {"uuid", "HEX", "partition uuid, hexadecimal in words of eight digits", ""},
                    {"intf-id", "N", "interface id, decimal or 0x-hexadecimal", "0"},
                    {"namespace", "NAME", "namespace of the partition", ""},

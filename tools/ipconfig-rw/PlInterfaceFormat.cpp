@@ -51,13 +51,8 @@ Format plInterfaceFormat()
                "write the interface of the solution's array ports to OUT",
                write,
                {
-                   {"partition-start", "N",
-                    "first column of the partition; with --partition-size -1 too, the array's",
-                    "-1"},
-                   {"partition-size", "N",
-                    "number of columns of the partition; with --partition-start -1 too, the "
-                    "array's",
-                    "-1"},
+                   partitionStartOption(),
+                   partitionSizeOption(),
                    {"array-start", "N", "first column of the array; the device's by default",
                     ""},
                    {"array-size", "N",
