@@ -81,11 +81,13 @@ private:
   rapidjson::ParseResult result_;
 };
 
+constexpr std::size_t readBlock = std::size_t{1} << 16;
+
 // Whatever `in` still holds, in large blocks rather than a character at a
 // time: a decompressing stream decompresses into the text as it goes.
 void readAll(std::istream& in, std::string& text)
 {
-  constexpr std::size_t block = std::size_t{1} << 16;
+  constexpr std::size_t block = readBlock;
   text.clear();
   // A file or string stream tells how much is left; the text then grows once.
   const std::streamsize left = in.rdbuf() ? in.rdbuf()->in_avail() : 0;
@@ -166,6 +168,10 @@ void HCRapidJsonParser::parseJsonFile(std::istream& in, const std::string& path,
 {
   if (!in.good())
     HCRapidJsonReadWriteUtils::errorReadingJsonFile(path);
+  // A plain file tells its size before it is read: the text then grows once,
+  // instead of copying (and faulting in) every larger buffer on the way.
+  if (isl::iostreams::compressionOf(in).empty())
+    text.reserve(HUTFile(path).size() + readBlock);
   std::string problem;
   switch (parse(in, document, problem, text)) {
   case Result::unreadable: HCRapidJsonReadWriteUtils::errorReadingJsonFile(path);

@@ -136,7 +136,7 @@ void ZXLogicalArchLInst::clear_()
   ports.clear();
   portMap.clear();
   firstPortByName.clear();
-  firstPortByNameStale = false;
+  firstPortByNameStale = true;
 }
 
 void ZXLogicalArchLInst::resetNameToObjectMaps_()

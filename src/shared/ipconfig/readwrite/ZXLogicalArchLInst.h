@@ -96,7 +96,8 @@ private:
   PortMap portMap;
   Ports ports;
   mutable std::unordered_map<std::string, ZXLogicalPort*> firstPortByName;
-  mutable bool firstPortByNameStale = false;
+  // Built on the first lookup by name: a reader that adds ports never asks.
+  mutable bool firstPortByNameStale = true;
 };
 
 }  // namespace IPConfig::Frameworks
