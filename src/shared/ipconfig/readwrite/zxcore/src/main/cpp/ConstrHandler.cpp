@@ -67,8 +67,25 @@ void ConstrHandler::destroy_(BaseConstraint* constr)
 
 const ObjectConstrs* ConstrHandler::entry_(const std::string& objName) const
 {
+  if (lastName && *lastName == objName)
+    return lastEntry;
   const auto entry = objects.find(objName);
-  return entry == objects.end() ? nullptr : &entry->second;
+  if (entry == objects.end())
+    return nullptr;
+  lastName = &entry->first;
+  // The entry is this handler's own: only a const lookup found it.
+  lastEntry = const_cast<ObjectConstrs*>(&entry->second);
+  return lastEntry;
+}
+
+ObjectConstrs& ConstrHandler::fileUnder_(const std::string& objName)
+{
+  if (lastName && *lastName == objName)
+    return *lastEntry;
+  const auto entry = objects.try_emplace(objName).first;
+  lastName = &entry->first;
+  lastEntry = &entry->second;
+  return *lastEntry;
 }
 
 template <typename Value>
@@ -164,6 +181,7 @@ void ConstrHandler::clear()
   Constrs doomed;
   doomed.swap(constrs);
   objTypes.clear();
+  lastName = nullptr;
   objects.clear();
   groups.clear();
   for (BaseConstraint* constr : doomed)
@@ -562,8 +580,8 @@ void ConstrHandler::addConstraint(BaseConstraint* constr)
     return;
   constrs.push_back(constr);
   objTypes.push_back(constr->getObjType());
-  const std::string name = constr->getObjName();
-  objects[name].add(constr);
+  const std::string& name = constr->getObjName();
+  fileUnder_(name).add(constr);
   if (isGroup(constr->getConstrType()))
     groups[name].add(constr);
 }
@@ -647,6 +665,7 @@ void ConstrHandler::dump() const
 void ConstrHandler::renamePorts(const std::map<std::string, std::string>& oldToNew)
 {
   const PortRenamer::HashedScope hashed(oldToNew);
+  lastName = nullptr;
   for (std::size_t i = 0; i < constrs.size(); ++i)
     constrs[i]->renamePorts(oldToNew);
   for (const auto& [oldName, newName] : oldToNew) {

@@ -317,6 +317,7 @@ private:
   static void destroy_(BaseConstraint* constr);
 
   const ObjectConstrs* entry_(const std::string& objName) const;
+  ObjectConstrs& fileUnder_(const std::string& objName);
   template <typename Kind>
   Kind* firstOfKind_(const std::string& objName, Kind* (*cast)(BaseConstraint*)) const;
   template <typename Kind>
@@ -356,6 +357,11 @@ private:
   // the walks by type then touch only the constraints they keep.
   std::vector<ObjectType> objTypes;
   Index objects;
+  // The entry of `objects` found last, by its name: a reader asks for one
+  // object's entry several times in a row. Forgotten wherever an entry of
+  // `objects` is erased.
+  mutable const std::string* lastName = nullptr;
+  mutable ObjectConstrs* lastEntry = nullptr;
   // The groups by their own name, which renamePorts leaves alone.
   Index groups;
 };

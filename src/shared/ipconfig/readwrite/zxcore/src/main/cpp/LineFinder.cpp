@@ -86,6 +86,8 @@ void LineFinder::index_()
 {
   const char* const begin = contents.data();
   const char* const end = begin + contents.size();
+  // No line holds more texts between neighbouring quotes than quotes.
+  entries.reserve(static_cast<std::size_t>(std::count(begin, end, '"')));
   for (const char* start = begin; start < end;) {
     lineStarts.push_back(static_cast<std::size_t>(start - begin));
     const char* const newline = findChar(start, end, '\n');
@@ -161,6 +163,8 @@ bool LineFinder::firstAfter_(std::string_view text, std::uint32_t line, Place& p
   if (line >= lineStarts.size() || lineStarts[line] > offsetMask ||
       text.find('\n') != std::string_view::npos)
     return false;
+  if (scanNear_(text, line, place))
+    return true;
   const Entry hash = hashOf_(text);
   auto entry = std::lower_bound(entries.begin(), entries.end(), hash | lineStarts[line]);
   for (; entry != entries.end() && (*entry & ~offsetMask) == hash; ++entry) {
@@ -168,6 +172,28 @@ bool LineFinder::firstAfter_(std::string_view text, std::uint32_t line, Place& p
     if (standsAt_(text, offset)) {
       place = placeOf_(offset);
       return true;
+    }
+  }
+  return false;
+}
+
+// The same search as the index's over the next few lines only, in the text
+// itself: a key mostly stands a line or two below its object.
+bool LineFinder::scanNear_(std::string_view text, std::uint32_t line, Place& place) const
+{
+  const auto last = static_cast<std::uint32_t>(
+      std::min<std::size_t>(lineStarts.size(), std::size_t{line} + nearLines));
+  for (std::uint32_t number = line + 1; number <= last; ++number) {
+    const std::string_view content = line_(number);
+    for (std::size_t open = content.find('"'); open != std::string_view::npos;) {
+      const std::size_t close = content.find('"', open + 1);
+      if (close == std::string_view::npos || lineStarts[number - 1] + open > offsetMask)
+        break;
+      if (close - open - 1 == text.size() && content.compare(open + 1, text.size(), text) == 0) {
+        place = {number, static_cast<std::uint32_t>(open + 1)};
+        return true;
+      }
+      open = close;
     }
   }
   return false;

@@ -52,6 +52,7 @@ private:
   using Entry = std::uint64_t;
   static constexpr unsigned offsetBits = 40;
   static constexpr Entry offsetMask = (Entry{1} << offsetBits) - 1;
+  static constexpr std::uint32_t nearLines = 8;
 
   struct Place {
     std::uint32_t line;
@@ -66,6 +67,8 @@ private:
   // The first place on a line after `line` where `text`, which holds no
   // quote, stands between two neighbouring quotes.
   bool firstAfter_(std::string_view text, std::uint32_t line, Place& place) const;
+  // The same as firstAfter_, on the `nearLines` lines after `line` only.
+  bool scanNear_(std::string_view text, std::uint32_t line, Place& place) const;
   // Whether `text` stands between the quote at `offset` and the next quote.
   bool standsAt_(std::string_view text, std::size_t offset) const;
   Place placeOf_(std::size_t offset) const;
