@@ -54,6 +54,9 @@ BaseConstraint* ObjectConstrs::firstFrom(Constrs::const_iterator from,
 
 void ObjectConstrs::add(BaseConstraint* constr)
 {
+  // One allocation for an object's first few constraints, not one for each.
+  if (constrs.empty())
+    constrs.reserve(firstCapacity);
   constrs.push_back(constr);
   if (lookups) {
     addToLookups(constr);

@@ -44,6 +44,7 @@ public:
 private:
   // Beyond this many constraints the hashed lookups are kept.
   static constexpr std::size_t fewConstrs = 8;
+  static constexpr std::size_t firstCapacity = 4;
 
   struct Lookups;
 
