@@ -59,16 +59,13 @@ struct RunResult {
   std::string output;  // stderr, then stdout: the tool's stdout is flushed at its end
 };
 
-// Runs ipconfig-rw with `args` through the shell, in `workingDir` when one is
-// given; with a time limit, a run that passes it is killed and gives exit
-// code 124.
-inline RunResult runTool(const std::string& args, int timeLimitSeconds = 0,
-                         const std::string& workingDir = {})
+// Runs ipconfig-rw with `args` through the shell; with a time limit, a run
+// that passes it is killed and gives exit code 124.
+inline RunResult runTool(const std::string& args, int timeLimitSeconds = 0)
 {
   const std::string limit =
       timeLimitSeconds > 0 ? "timeout " + std::to_string(timeLimitSeconds) + " " : "";
-  const std::string cd = workingDir.empty() ? "" : "cd '" + workingDir + "' && ";
-  const std::string command = cd + limit + IPCONFIG_RW_TOOL + " " + args + " 2>&1";
+  const std::string command = limit + IPCONFIG_RW_TOOL + " " + args + " 2>&1";
   RunResult result{-1, {}};
   FILE* pipe = popen(command.c_str(), "r");
   if (!pipe)

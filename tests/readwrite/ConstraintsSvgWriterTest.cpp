@@ -4,7 +4,6 @@
 #include "BaseNameResolver.h"
 #include "ConstrHandler.h"
 #include "ConstraintsSvgWriter.h"
-#include "HDARPartReader.h"
 #include "SvgText.h"
 
 #include <memory>
@@ -162,12 +161,6 @@ TEST(ConstraintsSvgWriterTest, SmallStoreGivesTheWorkedOutPicture)
 {
   const auto handler = readText(smallStore);
   EXPECT_EQ(drawn(*handler, "demo & 'test'"), smallPicture);
-}
-
-TEST(ConstraintsSvgWriterTest, SameStoreSameBytes)
-{
-  const auto handler = readText(smallStore);
-  EXPECT_EQ(drawn(*handler, "t"), drawn(*handler, "t"));
 }
 
 // One colocation of two pinned nodes and one relative placement of a node
@@ -440,17 +433,6 @@ TEST(ArrayPlacementsTest, NodePutByAnOffsetIsNamedOnItsTile)
   EXPECT_EQ(tile[0].text, "b: relative to a");
   EXPECT_EQ(placements.getColumns(), 3);
   EXPECT_EQ(placements.getRows(), 4);
-}
-
-TEST(ArrayPlacementsTest, DeviceWidensTheGridToItsColumnsAndChannels)
-{
-  const std::unique_ptr<HDARPart> device = HDARPartReader::readByName("qpe_demo");
-  const auto handler = readText(R"j({"NodeConstraints": {"n": {"tile": {"column": 1, "row": 3}}}})j");
-  const ArrayPlacements placements(*handler, device.get());
-  EXPECT_EQ(placements.getDeviceName(), "qpe_demo");
-  EXPECT_EQ(placements.getColumns(), 6);
-  EXPECT_EQ(placements.getRows(), 4);
-  EXPECT_EQ(placements.getChannels(), 8);
 }
 
 }  // namespace

@@ -132,7 +132,6 @@ TEST_F(QPEShimInterfaceConstraintsTest, AddKeepsTheFirstPlacementAndGetLeavesAbs
   constraints.clear();
   EXPECT_TRUE(constraints.empty());
   EXPECT_FALSE(constraints.hasLogical(bel1));
-  EXPECT_EQ(constraints.getSpecs(), std::vector<const HrdIPToolCntr::TrafficSpec*>{&spec});
 }
 
 TEST_F(QPEShimInterfaceConstraintsTest, ABelStaysTakenUntilItsLastPlacementGoes)

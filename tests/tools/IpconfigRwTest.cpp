@@ -74,8 +74,6 @@ INSTANTIATE_TEST_SUITE_P(
                 "metadata: cannot write $D/no/out.json\n"},
         RunCase{"trafficCheck", nullptr, "traffic check $E/traffic.json", 0,
                 "traffic $E/traffic.json" + trafficCounts},
-        RunCase{"trafficCheckCompressed", nullptr, "traffic check $E/traffic.json.gz", 0,
-                "traffic $E/traffic.json.gz" + trafficCounts},
         RunCase{"nocConstraintsCheck", nullptr, "nocconstraints check $E/noc_constraints.json",
                 0,
                 "nocconstraints $E/noc_constraints.json: 3 placements (1 soft), 6 components\n"},
@@ -137,12 +135,6 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"logicalArchEmpty", R"({"appId": "a"})",
                 "logicalarch roundtrip $D/in.json $D/out.json", 1,
                 "logicalarch: $D/in.json has no instance and no connection; nothing written\n"},
-        RunCase{"partitionWrite", nullptr,
-                "partition write $E/logical_arch.json $D/out.json --array-start 0 "
-                "--array-size 50 --partition-start=10 --partition-size 4 "
-                "--uuid 12345678-9abc-def0-1234-56789abcdef0 --intf-id 0x2a --namespace radar "
-                "&& cmp $E/partition.json $D/out.json",
-                0, "partition $E/logical_arch.json -> $D/out.json: 1 compute arrays\n"},
         RunCase{"partitionWholeArray", nullptr,
                 "partition write $E/logical_arch.json $D/out.json --array-start 6 "
                 "--array-size 10 && cat $D/out.json",
@@ -171,13 +163,6 @@ INSTANTIATE_TEST_SUITE_P(
                 "partition write $E/logical_arch.json $D/no/out.json --array-start 0 "
                 "--array-size 1",
                 1, "partition: cannot write $D/no/out.json\n"},
-        RunCase{"logicalArchDot", nullptr,
-                "logicalarch dot $E/logical_arch.json > $D/out.dot && "
-                "cmp $E/logical_arch.dot $D/out.dot",
-                0, ""},
-        RunCase{"trafficDot", nullptr,
-                "traffic dot $E/traffic.json > $D/out.dot && cmp $E/traffic.dot $D/out.dot", 0,
-                ""},
         RunCase{"compilerSolutionCheck", nullptr,
                 "compilersolution check" + handOff + " $E/compiler_solution.json", 0,
                 "compilersolution $E/compiler_solution.json" + solutionCounts},
@@ -312,52 +297,5 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"argumentCount", nullptr, "constraints areagroups $E/placement.json", 2,
                 "takes 2 argument(s)", true}),
     [](const auto& info) { return info.param.name; });
-
-// Graphviz itself accepts the pictures of the examples.
-// The compiler's solution takes its written form at the first write, the same
-// bytes whether the files are named by absolute or by relative paths.
-TEST(IpconfigRwSolutionTest, TheFirstWriteIsTheWrittenFormFromAnyPathForm)
-{
-  const TempDir dir;
-  const std::string examples = IPCONFIG_RW_EXAMPLES_DIR;
-  const std::string written = readFile(examples + "/solution_written.json");
-  const RunResult absolute = runTool("solution roundtrip " + examples + "/traffic.json " +
-                                     examples + "/solution.json " + dir.file("absolute.json"));
-  ASSERT_EQ(absolute.exitCode, 0) << absolute.output;
-  EXPECT_EQ(readFile(dir.file("absolute.json")), written);
-  const RunResult relative =
-      runTool("solution roundtrip traffic.json solution.json " + dir.file("relative.json"),
-              0, examples);
-  ASSERT_EQ(relative.exitCode, 0) << relative.output;
-  EXPECT_EQ(readFile(dir.file("relative.json")), written);
-}
-
-TEST(IpconfigRwDotTest, GraphvizRendersThePictures)
-{
-  if (runTool("--help > /dev/null && command -v dot").exitCode != 0)
-    GTEST_SKIP() << "Graphviz's dot is not installed";
-  for (const char* run : {"logicalarch dot $E/logical_arch.json", "traffic dot $E/traffic.json"}) {
-    const TempDir dir;
-    const RunResult result = runTool(expand(run, dir) + " | dot -Tsvg -o " + dir.file("out.svg"));
-    EXPECT_EQ(result.exitCode, 0) << run << ": " << result.output;
-    EXPECT_NE(readFile(dir.file("out.svg")).find("<svg"), std::string::npos) << run;
-  }
-}
-
-TEST(IpconfigRwPictureTest, ConstraintsPicturesRenderWithRsvg)
-{
-  if (runTool("--help > /dev/null && command -v rsvg-convert").exitCode != 0)
-    GTEST_SKIP() << "rsvg-convert is not installed";
-  for (const char* file : {"array_placement.json", "placement.json", "area_groups.json",
-                           "colocation.json", "every_kind.json"}) {
-    const TempDir dir;
-    const RunResult result =
-        runTool(expand(std::string("constraints draw $E/") + file + " $D/out.svg", dir) +
-                " > /dev/null && rsvg-convert " + dir.file("out.svg") + " -o " +
-                dir.file("out.png"));
-    EXPECT_EQ(result.exitCode, 0) << file << ": " << result.output;
-    EXPECT_EQ(readFile(dir.file("out.png")).compare(1, 3, "PNG"), 0) << file;
-  }
-}
 
 }  // namespace
