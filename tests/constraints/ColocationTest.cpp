@@ -14,76 +14,58 @@ using namespace constr_support;
 
 using Query = void (ConstrHandler::*)(const std::string&, Names&) const;
 
-struct RelationCase {
-  const char* label;
-  Query query;
-  std::string name;
-  Names expected;
-};
-
-void PrintTo(const RelationCase& c, std::ostream* out)
+// Relations stated on one side answer from both, each name once.
+TEST(RelationQueryTest, AnswersFromBothSidesEachNameOnce)
 {
-  *out << c.label << "(" << c.name << ")";
-}
-
-// Relations stated on one side answer from both.
-class RelationTest : public ::testing::TestWithParam<RelationCase> {
-protected:
-  RelationTest()
-  {
-    handler.addColocatedNodesConstr(Base::NODE, "a", {"b", "c"}, false);
-    handler.addColocatedNodesConstr(Base::NODE, "a", {"d"}, true);
-    handler.addColocatedNodesConstr(Base::NODE, "e", {"a", "b"}, false);
-    handler.addColocatedNodesConstr(Base::NODE, "f", {"d"}, true);
-    // A port that lists nodes: a relation of ports, not of nodes.
-    handler.addColocatedNodesConstr(Base::PORT, "p", {"a"}, false);
-    handler.addColocatedNodesConstr(Base::PORT, "p", {"x"}, true);
-    handler.addColocatedPortsConstr(Base::PORT, "q", {"r"}, false);
-    handler.addColocatedPortsConstr(Base::PORT, "r", {"q", "s"}, false);
-    handler.addColocatedPortsConstr(Base::PORT, "r", {"t"}, true);
-    handler.addExclusiveColocatedPortsConstr(Base::PORT, "q", {"u"});
-    handler.addExclusiveColocatedPortsConstr(Base::PORT, "v", {"q"});
-    handler.addColocatedDmaConstr(Base::PORT, "q", {"w"});
-    handler.addColocatedDmaConstr(Base::PORT, "w2", {"w"});
-    handler.addColocatedMemoriesConstr(Base::NODE, "a", {"m"}, false);
-    handler.addColocatedMemoriesConstr(Base::NODE, "g", {"m"}, false);
-    handler.addColocatedMemoriesConstr(Base::NODE, "g", {"n"}, true);
-    handler.addColocatedMemoriesConstr(Base::PORT, "s", {"a"}, false);
-  }
-
   ConstrHandler handler;
-};
+  handler.addColocatedNodesConstr(Base::NODE, "a", {"b", "c"}, false);
+  handler.addColocatedNodesConstr(Base::NODE, "a", {"d"}, true);
+  handler.addColocatedNodesConstr(Base::NODE, "e", {"a", "b"}, false);
+  handler.addColocatedNodesConstr(Base::NODE, "f", {"d"}, true);
+  // A port that lists nodes: a relation of ports, not of nodes.
+  handler.addColocatedNodesConstr(Base::PORT, "p", {"a"}, false);
+  handler.addColocatedNodesConstr(Base::PORT, "p", {"x"}, true);
+  handler.addColocatedPortsConstr(Base::PORT, "q", {"r"}, false);
+  handler.addColocatedPortsConstr(Base::PORT, "r", {"q", "s"}, false);
+  handler.addColocatedPortsConstr(Base::PORT, "r", {"t"}, true);
+  handler.addExclusiveColocatedPortsConstr(Base::PORT, "q", {"u"});
+  handler.addExclusiveColocatedPortsConstr(Base::PORT, "v", {"q"});
+  handler.addColocatedDmaConstr(Base::PORT, "q", {"w"});
+  handler.addColocatedDmaConstr(Base::PORT, "w2", {"w"});
+  handler.addColocatedMemoriesConstr(Base::NODE, "a", {"m"}, false);
+  handler.addColocatedMemoriesConstr(Base::NODE, "g", {"m"}, false);
+  handler.addColocatedMemoriesConstr(Base::NODE, "g", {"n"}, true);
+  handler.addColocatedMemoriesConstr(Base::PORT, "s", {"a"}, false);
 
-TEST_P(RelationTest, AnswersFromBothSidesEachNameOnce)
-{
-  const RelationCase& c = GetParam();
-  Names out;
-  (handler.*c.query)(c.name, out);
-  EXPECT_EQ(out, c.expected);
+  const struct {
+    const char* label;
+    Query query;
+    std::string name;
+    Names expected;
+  } cases[] = {
+      {"colocatedNodes", &ConstrHandler::getColocatedNodes, "a", {"b", "c", "e"}},
+      {"colocatedNodes", &ConstrHandler::getColocatedNodes, "b", {"a", "e"}},
+      {"colocatedNodes", &ConstrHandler::getColocatedNodes, "z", {}},
+      {"notColocatedNodes", &ConstrHandler::getNotColocatedNodes, "d", {"a", "f"}},
+      {"notColocatedNodes", &ConstrHandler::getNotColocatedNodes, "x", {}},
+      {"colocatedPorts", &ConstrHandler::getColocatedPorts, "q", {"r"}},
+      {"colocatedPorts", &ConstrHandler::getColocatedPorts, "s", {"r"}},
+      {"colocatedPorts", &ConstrHandler::getColocatedPorts, "a", {"p", "s"}},
+      {"notColocatedPorts", &ConstrHandler::getNotColocatedPorts, "t", {"r"}},
+      {"notColocatedPorts", &ConstrHandler::getNotColocatedPorts, "x", {"p"}},
+      {"exclusivePorts", &ConstrHandler::getExclusiveColocatedPorts, "q", {"u", "v"}},
+      {"colocatedDma", &ConstrHandler::getColocatedDma, "w", {"q", "w2"}},
+      {"colocatedDma", &ConstrHandler::getColocatedDma, "q", {"w"}},
+      {"colocatedMemories", &ConstrHandler::getColocatedMemories, "m", {"a", "g"}},
+      {"colocatedMemories", &ConstrHandler::getColocatedMemories, "a", {"m"}},
+      {"notColocatedMemories", &ConstrHandler::getNotColocatedMemories, "n", {"g"}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.label) + "(" + c.name + ")");
+    Names out;
+    (handler.*c.query)(c.name, out);
+    EXPECT_EQ(out, c.expected);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Queries, RelationTest,
-    ::testing::Values(
-        RelationCase{"colocatedNodes", &ConstrHandler::getColocatedNodes, "a", {"b", "c", "e"}},
-        RelationCase{"colocatedNodes", &ConstrHandler::getColocatedNodes, "b", {"a", "e"}},
-        RelationCase{"colocatedNodes", &ConstrHandler::getColocatedNodes, "z", {}},
-        RelationCase{"notColocatedNodes", &ConstrHandler::getNotColocatedNodes, "d", {"a", "f"}},
-        RelationCase{"notColocatedNodes", &ConstrHandler::getNotColocatedNodes, "x", {}},
-        RelationCase{"colocatedPorts", &ConstrHandler::getColocatedPorts, "q", {"r"}},
-        RelationCase{"colocatedPorts", &ConstrHandler::getColocatedPorts, "s", {"r"}},
-        RelationCase{"colocatedPorts", &ConstrHandler::getColocatedPorts, "a", {"p", "s"}},
-        RelationCase{"notColocatedPorts", &ConstrHandler::getNotColocatedPorts, "t", {"r"}},
-        RelationCase{"notColocatedPorts", &ConstrHandler::getNotColocatedPorts, "x", {"p"}},
-        RelationCase{"exclusivePorts", &ConstrHandler::getExclusiveColocatedPorts, "q",
-                     {"u", "v"}},
-        RelationCase{"colocatedDma", &ConstrHandler::getColocatedDma, "w", {"q", "w2"}},
-        RelationCase{"colocatedDma", &ConstrHandler::getColocatedDma, "q", {"w"}},
-        RelationCase{"colocatedMemories", &ConstrHandler::getColocatedMemories, "m", {"a", "g"}},
-        RelationCase{"colocatedMemories", &ConstrHandler::getColocatedMemories, "a", {"m"}},
-        RelationCase{"notColocatedMemories", &ConstrHandler::getNotColocatedMemories, "n",
-                     {"g"}}),
-    [](const auto& info) { return info.param.label + std::to_string(info.index); });
 
 TEST(RelationQueryTest, WithoutAListOfItsOwnTheObjectKeepsWhatOutHeld)
 {

@@ -233,70 +233,60 @@ TEST(ConstraintsSvgWriterTest, EmptyStoreIsOneTileAndOneChannelWithTheLegendOnly
 }
 
 // What the placements make of each kind of location.
-struct PlacementCase {
-  const char* name;
-  const char* file;
-  int columns;
-  int rows;
-  int channels;
-  std::vector<std::string> offGrid;
-};
-
-void PrintTo(const PlacementCase& c, std::ostream* out)
+TEST(ArrayPlacementsTest, ExtentAndWhatStaysOffTheGrid)
 {
-  *out << c.name;
+  const struct {
+    const char* name;
+    const char* file;
+    int columns;
+    int rows;
+    int channels;
+    std::vector<std::string> offGrid;
+  } cases[] = {
+      {"coreTile", R"j({"NodeConstraints": {"n": {"tile": {"column": 3, "row": 2}}}})j",
+       4, 3, 1, {}},
+      {"rowLeftOut", R"j({"NodeConstraints": {"n": {"tile": {"column": 3}}}})j", 1,
+       1, 1, {"n: tile (3,-1)"}},
+      {"negativeColumn",
+       R"j({"NodeConstraints": {"n": {"tile": {"column": -4, "row": 1}}}})j", 1, 1, 1,
+       {"n: tile (-4,1)"}},
+      {"beyondTheGrid",
+       R"j({"NodeConstraints": {"n": {"tile": {"column": 256, "row": 0}}}})j", 1, 1,
+       1, {"n: tile (256,0)"}},
+      {"lastDrawnColumn",
+       R"j({"NodeConstraints": {"n": {"tile": {"column": 255, "row": 0}}}})j", 256,
+       1, 1, {}},
+      {"shimWithoutChannel",
+       R"j({"NodeConstraints": {"n": {"shim": {"column": 5}}}})j", 6, 1, 1, {}},
+      {"shimByName", R"j({"NodeConstraints": {"n": {"shim": {"name": "s_1"}}}})j",
+       1, 1, 1, {"n: shim s_1"}},
+      {"addressByBankOnly",
+       R"j({"NodeConstraints": {"n": {"reserved_memory": {"bankId": 1, "offset": 8}}}})j",
+       1, 1, 1, {"n: reserved memory (-1,-1,1,8)"}},
+      {"buffersOfAPort",
+       R"j({"PortConstraints": {"p": {"buffers": [{"column": 1, "row": 4},
+           {"bankId": 0, "offset": 0}, {"column": 2, "row": 0}]}}})j",
+       3, 5, 1, {"p: buffer pong (-1,-1,0,0)"}},
+      {"groupRanges",
+       R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
+           "tileGroup": ["(1,1):(3,2)", 6, "t_a:t_b"],
+           "shimGroup": ["(2,3):(4,7)"], "memGroup": ["(0,5)"]}}})j",
+       7, 6, 8, {"area group g: core t_a:t_b"}},
+      {"secondEndOffTheGrid",
+       R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
+           "tileGroup": ["(1,1):(300,1)"], "shimGroup": ["(2,0):(t_c)"]}}})j",
+       3, 2, 1,
+       {"area group g: core (1,1):(300,1)", "area group g: shim (2,0):t_c"}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const auto handler = readText(c.file);
+    const ArrayPlacements placements(*handler);
+    EXPECT_EQ(placements.getColumns(), c.columns);
+    EXPECT_EQ(placements.getRows(), c.rows);
+    EXPECT_EQ(placements.getChannels(), c.channels);
+    EXPECT_EQ(placements.getOffGrid(), c.offGrid);
+  }
 }
-
-class ArrayPlacementsTest : public ::testing::TestWithParam<PlacementCase> {};
-
-TEST_P(ArrayPlacementsTest, ExtentAndWhatStaysOffTheGrid)
-{
-  const PlacementCase& c = GetParam();
-  const auto handler = readText(c.file);
-  const ArrayPlacements placements(*handler);
-  EXPECT_EQ(placements.getColumns(), c.columns);
-  EXPECT_EQ(placements.getRows(), c.rows);
-  EXPECT_EQ(placements.getChannels(), c.channels);
-  EXPECT_EQ(placements.getOffGrid(), c.offGrid);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, ArrayPlacementsTest,
-    ::testing::Values(
-        PlacementCase{"coreTile", R"j({"NodeConstraints": {"n": {"tile": {"column": 3, "row": 2}}}})j",
-                      4, 3, 1, {}},
-        PlacementCase{"rowLeftOut", R"j({"NodeConstraints": {"n": {"tile": {"column": 3}}}})j", 1,
-                      1, 1, {"n: tile (3,-1)"}},
-        PlacementCase{"negativeColumn",
-                      R"j({"NodeConstraints": {"n": {"tile": {"column": -4, "row": 1}}}})j", 1, 1, 1,
-                      {"n: tile (-4,1)"}},
-        PlacementCase{"beyondTheGrid",
-                      R"j({"NodeConstraints": {"n": {"tile": {"column": 256, "row": 0}}}})j", 1, 1,
-                      1, {"n: tile (256,0)"}},
-        PlacementCase{"lastDrawnColumn",
-                      R"j({"NodeConstraints": {"n": {"tile": {"column": 255, "row": 0}}}})j", 256,
-                      1, 1, {}},
-        PlacementCase{"shimWithoutChannel",
-                      R"j({"NodeConstraints": {"n": {"shim": {"column": 5}}}})j", 6, 1, 1, {}},
-        PlacementCase{"shimByName", R"j({"NodeConstraints": {"n": {"shim": {"name": "s_1"}}}})j",
-                      1, 1, 1, {"n: shim s_1"}},
-        PlacementCase{"addressByBankOnly",
-                      R"j({"NodeConstraints": {"n": {"reserved_memory": {"bankId": 1, "offset": 8}}}})j",
-                      1, 1, 1, {"n: reserved memory (-1,-1,1,8)"}},
-        PlacementCase{"buffersOfAPort",
-                      R"j({"PortConstraints": {"p": {"buffers": [{"column": 1, "row": 4},
-                          {"bankId": 0, "offset": 0}, {"column": 2, "row": 0}]}}})j",
-                      3, 5, 1, {"p: buffer pong (-1,-1,0,0)"}},
-        PlacementCase{"groupRanges",
-                      R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
-                          "tileGroup": ["(1,1):(3,2)", 6, "t_a:t_b"],
-                          "shimGroup": ["(2,3):(4,7)"], "memGroup": ["(0,5)"]}}})j",
-                      7, 6, 8, {"area group g: core t_a:t_b"}},
-        PlacementCase{"secondEndOffTheGrid",
-                      R"j({"GlobalConstraints": {"areaGroup": {"name": "g",
-                          "tileGroup": ["(1,1):(300,1)"], "shimGroup": ["(2,0):(t_c)"]}}})j",
-                      3, 2, 1,
-                      {"area group g: core (1,1):(300,1)", "area group g: shim (2,0):t_c"}}));
 
 TEST(ArrayPlacementsTest, GroupBoxesSpanAFreeAxisAndKeepTheirBand)
 {
@@ -349,20 +339,6 @@ TEST(ArrayPlacementsTest, CellsCollectTheirLinesInStoreOrder)
   EXPECT_FALSE(placements.isChannelTaken(0, 1));
 }
 
-// Which ties a store gives, each as "kind from (column,row) - to (column,row)",
-// and what of them stays off the grid.
-struct TieCase {
-  const char* name;
-  const char* nodes;  // the members of "NodeConstraints"
-  std::vector<std::string> ties;
-  std::vector<std::string> offGrid;
-};
-
-void PrintTo(const TieCase& c, std::ostream* out)
-{
-  *out << c.name;
-}
-
 std::string tieText(const ArrayPlacements::Tie& tie)
 {
   const auto cell = [](const ArrayPlacements::Cell& at) {
@@ -372,55 +348,57 @@ std::string tieText(const ArrayPlacements::Tie& tie)
          tie.from + " " + cell(tie.fromCell) + " - " + tie.to + " " + cell(tie.toCell);
 }
 
-class ArrayPlacementsTiesTest : public ::testing::TestWithParam<TieCase> {};
-
-TEST_P(ArrayPlacementsTiesTest, TiesJoinTilesThatBothEndsHave)
+// Which ties a store gives, each as "kind from (column,row) - to (column,row)",
+// and what of them stays off the grid.
+TEST(ArrayPlacementsTest, TiesJoinTilesThatBothEndsHave)
 {
-  const TieCase& c = GetParam();
-  const auto handler = readText(std::string(R"j({"NodeConstraints": {)j") + c.nodes + "}}");
-  const ArrayPlacements placements(*handler);
-  std::vector<std::string> ties;
-  for (const ArrayPlacements::Tie& tie : placements.getTies())
-    ties.push_back(tieText(tie));
-  EXPECT_EQ(ties, c.ties);
-  EXPECT_EQ(placements.getOffGrid(), c.offGrid);
+  const struct {
+    const char* name;
+    const char* nodes;  // the members of "NodeConstraints"
+    std::vector<std::string> ties;
+    std::vector<std::string> offGrid;
+  } cases[] = {
+      {"colocationNamedFromBothSidesIsOneTie",
+       R"j("a": {"tile": {"column": 0, "row": 0}, "colocated_nodes": ["b"]},
+           "b": {"tile": {"column": 2, "row": 1}, "colocated_nodes": ["a"]})j",
+       {"colocation a (0,0) - b (2,1)"}, {}},
+      {"colocationOnOneTileOrWithAFreeNodeHasNoLine",
+       R"j("a": {"tile": {"column": 1, "row": 1}, "colocated_nodes": ["b", "c"]},
+           "b": {"tile": {"column": 1, "row": 1}}, "d": {"colocated_nodes": ["a"]})j",
+       {}, {}},
+      {"notColocatedNodesAreNoTie",
+       R"j("a": {"tile": {"column": 0, "row": 0}, "not_colocated_nodes": ["b"]},
+           "b": {"tile": {"column": 1, "row": 0}})j",
+       {}, {}},
+      {"relativeNodesGoByOffsetOrByTheirOwnPin",
+       R"j("a": {"tile": {"column": 1, "row": 1},
+                 "relative_nodes": ["p:(X=5,Y=5)", "q:(X=-1,Y=2)", "r:(X=0,Y=0)"]},
+           "p": {"tile": {"column": 3, "row": 0}})j",
+       {"relative a (1,1) - p (3,0)", "relative a (1,1) - q (0,3)"}, {}},
+      {"relativeNodeWithAFreeAxisOrOffTheGridHasNoTie",
+       R"j("a": {"tile": {"column": 1, "row": 0},
+                 "relative_nodes": ["x:(X=1)", "y:(Y=2)", "z:(X=-2,Y=0)",
+                                    "w:(X=2147483647,Y=0)"]})j",
+       {}, {"w: relative to a (2147483648,0)", "z: relative to a (-1,0)"}},
+      {"relativeToANodeThatIsNotPinnedTiesNothing",
+       R"j("a": {"relative_nodes": ["b:(X=1,Y=1)"]},
+           "b": {"tile": {"column": 0, "row": 0}})j",
+       {}, {}},
+      {"colocationsComeBeforeRelativePlacements",
+       R"j("a": {"tile": {"column": 0, "row": 0}, "relative_nodes": ["b:(X=1,Y=0)"]},
+           "b": {"tile": {"column": 0, "row": 1}, "colocated_nodes": ["a"]})j",
+       {"colocation b (0,1) - a (0,0)", "relative a (0,0) - b (0,1)"}, {}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const auto handler = readText(std::string(R"j({"NodeConstraints": {)j") + c.nodes + "}}");
+    const ArrayPlacements placements(*handler);
+    std::vector<std::string> ties;
+    for (const ArrayPlacements::Tie& tie : placements.getTies())
+      ties.push_back(tieText(tie));
+    EXPECT_EQ(ties, c.ties);
+    EXPECT_EQ(placements.getOffGrid(), c.offGrid);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Stores, ArrayPlacementsTiesTest,
-    ::testing::Values(
-        TieCase{"colocationNamedFromBothSidesIsOneTie",
-                R"j("a": {"tile": {"column": 0, "row": 0}, "colocated_nodes": ["b"]},
-                    "b": {"tile": {"column": 2, "row": 1}, "colocated_nodes": ["a"]})j",
-                {"colocation a (0,0) - b (2,1)"}, {}},
-        TieCase{"colocationOnOneTileOrWithAFreeNodeHasNoLine",
-                R"j("a": {"tile": {"column": 1, "row": 1}, "colocated_nodes": ["b", "c"]},
-                    "b": {"tile": {"column": 1, "row": 1}},
-                    "d": {"colocated_nodes": ["a"]})j",
-                {}, {}},
-        TieCase{"notColocatedNodesAreNoTie",
-                R"j("a": {"tile": {"column": 0, "row": 0}, "not_colocated_nodes": ["b"]},
-                    "b": {"tile": {"column": 1, "row": 0}})j",
-                {}, {}},
-        TieCase{"relativeNodesGoByOffsetOrByTheirOwnPin",
-                R"j("a": {"tile": {"column": 1, "row": 1},
-                          "relative_nodes": ["p:(X=5,Y=5)", "q:(X=-1,Y=2)", "r:(X=0,Y=0)"]},
-                    "p": {"tile": {"column": 3, "row": 0}})j",
-                {"relative a (1,1) - p (3,0)", "relative a (1,1) - q (0,3)"}, {}},
-        TieCase{"relativeNodeWithAFreeAxisOrOffTheGridHasNoTie",
-                R"j("a": {"tile": {"column": 1, "row": 0},
-                          "relative_nodes": ["x:(X=1)", "y:(Y=2)", "z:(X=-2,Y=0)",
-                                             "w:(X=2147483647,Y=0)"]})j",
-                {}, {"w: relative to a (2147483648,0)", "z: relative to a (-1,0)"}},
-        TieCase{"relativeToANodeThatIsNotPinnedTiesNothing",
-                R"j("a": {"relative_nodes": ["b:(X=1,Y=1)"]},
-                    "b": {"tile": {"column": 0, "row": 0}})j",
-                {}, {}},
-        TieCase{"colocationsComeBeforeRelativePlacements",
-                R"j("a": {"tile": {"column": 0, "row": 0}, "relative_nodes": ["b:(X=1,Y=0)"]},
-                    "b": {"tile": {"column": 0, "row": 1}, "colocated_nodes": ["a"]})j",
-                {"colocation b (0,1) - a (0,0)", "relative a (0,0) - b (0,1)"}, {}}),
-    [](const auto& info) { return info.param.name; });
 
 TEST(ArrayPlacementsTest, NodePutByAnOffsetIsNamedOnItsTile)
 {
