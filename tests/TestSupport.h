@@ -160,19 +160,6 @@ inline std::ostream& operator<<(std::ostream& out, const ExpectedMsg& msg)
   return out;
 }
 
-// A text that a JSON file frame reader refuses with "@90-2@%s%s": the file's
-// name, then `detail`.
-struct BadTextCase {
-  const char* name;
-  std::string text;
-  std::string detail;
-};
-
-inline void PrintTo(const BadTextCase& c, std::ostream* out)
-{
-  *out << c.name;
-}
-
 // Starts each test with an empty message log and keeps messages off the console.
 class MessageLogTest : public ::testing::Test {
 protected:

@@ -129,33 +129,31 @@ TEST_F(NOCJsonConstraintsFileTest, FilesWithoutPlacementsOrDeviceAddNothing)
   expectSent({});
 }
 
-class NOCConstraintsBadTextTest : public NOCJsonConstraintsFileTest,
-                                  public ::testing::WithParamInterface<BadTextCase> {};
-
-TEST_P(NOCConstraintsBadTextTest, IsRefusedBeforeAnythingIsAdded)
+TEST_F(NOCJsonConstraintsFileTest, BadTextsAreRefusedBeforeAnythingIsAdded)
 {
-  expectThrows([&] { read(GetParam().text); }, "@90-2@%s%s", {"in.json", GetParam().detail});
-  EXPECT_TRUE(placements().empty());
-  EXPECT_EQ(status.getProgress(), 0.0);
+  const struct {
+    const char* name;
+    std::string text;
+    std::string detail;
+  } cases[] = {
+      {"malformed", R"({"Placement": [})", "Invalid value. (offset 15)"},
+      {"rootArray", "[]", ""},
+      {"placementObject", R"({"Placement": {}})", "/Placement"},
+      {"elementString", R"({"Placement": ["top/m"]})", "/Placement/0"},
+      {"instanceArray", R"({"Placement": [{"LogicalInstance": ["top/m"]}]})",
+       "/Placement/0/LogicalInstance"},
+      {"componentsText", R"({"Placement": [{}, {"PhysicalInstance": "NOC_NMU_X0Y0"}]})",
+       "/Placement/1/PhysicalInstance"},
+      {"componentNumber", R"({"Placement": [{"PhysicalInstance": ["a", 7]}]})",
+       "/Placement/0/PhysicalInstance/1"},
+      {"softText", R"({"Placement": [{"IsSoft": "true"}]})", "/Placement/0/IsSoft"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    expectThrows([&] { read(c.text); }, "@90-2@%s%s", {"in.json", c.detail});
+    EXPECT_TRUE(placements().empty());
+    EXPECT_EQ(status.getProgress(), 0.0);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, NOCConstraintsBadTextTest,
-    ::testing::Values(
-        BadTextCase{"malformed", R"({"Placement": [})", "Invalid value. (offset 15)"},
-        BadTextCase{"rootArray", "[]", ""},
-        BadTextCase{"placementObject", R"({"Placement": {}})", "/Placement"},
-        BadTextCase{"elementString", R"({"Placement": ["top/m"]})", "/Placement/0"},
-        BadTextCase{"instanceArray", R"({"Placement": [{"LogicalInstance": ["top/m"]}]})",
-                    "/Placement/0/LogicalInstance"},
-        BadTextCase{"componentsText",
-                    R"({"Placement": [{}, {"PhysicalInstance": "NOC_NMU_X0Y0"}]})",
-                    "/Placement/1/PhysicalInstance"},
-        BadTextCase{"componentNumber", R"({"Placement": [{"PhysicalInstance": ["a", 7]}]})",
-                    "/Placement/0/PhysicalInstance/1"},
-        BadTextCase{"softText", R"({"Placement": [{"IsSoft": "true"}]})",
-                    "/Placement/0/IsSoft"}),
-    [](const auto& info) { return info.param.name; });
 
 TEST_F(NOCJsonConstraintsFileTest, ReadingAFileNamesTheFileAsGiven)
 {

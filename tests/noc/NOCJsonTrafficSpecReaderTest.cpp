@@ -93,35 +93,33 @@ TEST_F(NOCJsonTrafficSpecReaderTest, ProgressIsReportedUnderTheLockInOrder)
   EXPECT_TRUE(status.isBusy());
 }
 
-class TrafficReaderFailureTest : public NOCJsonTrafficSpecReaderTest,
-                                 public ::testing::WithParamInterface<BadTextCase> {};
-
-TEST_P(TrafficReaderFailureTest, ReportsTheExactText)
+TEST_F(NOCJsonTrafficSpecReaderTest, BadFilesAreRefusedWithTheExactText)
 {
-  expectThrows([&] { read(GetParam().text); }, "@90-2@%s%s", {fileName, GetParam().detail});
+  const struct {
+    const char* name;
+    std::string text;
+    std::string detail;
+  } cases[] = {
+      {"unknownType", file(R"({"Name": "x", "CompType": "NPS_9"})"),
+       "Unknown component type : NPS_9"},
+      {"emptyName", file(R"({"CompType": "PL_NMU"})"), "Empty logical instance name"},
+      {"destIdOf13Bits", file(R"({"Name": "x", "CompType": "NPS", "DestId": 4096})"),
+       "DestId entry is expected to be a 12 bit maximum"},
+      {"negativeDestId", file(R"({"Name": "x", "CompType": "NPS", "DestId": -1})"),
+       "DestId entry is expected to be a 12 bit maximum"},
+      {"unknownFrom", file(master + "," + slave, R"({"From": "q", "To": "s"})"),
+       "Path 'from' name is unknown: q"},
+      {"unknownTo", file(master + "," + slave, R"({"From": "m", "To": "t"})"),
+       "Path 'to' name is unknown: t"},
+      {"wrongType", file(R"({"Name": "x", "IsMaster": 1})"), "/LogicalInstances/0/IsMaster"},
+      {"negativeBandwidth", file("", R"({}, {"ReadBW": -1})"), "/Paths/1/ReadBW"},
+      {"addressAsBoolean", file(R"({"SysAddresses": [{"Base": true}]})"),
+       "/LogicalInstances/0/SysAddresses/0/Base"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    expectThrows([&] { read(c.text); }, "@90-2@%s%s", {fileName, c.detail});
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Inputs, TrafficReaderFailureTest,
-    ::testing::Values(
-        BadTextCase{"unknownType", file(R"({"Name": "x", "CompType": "NPS_9"})"),
-                    "Unknown component type : NPS_9"},
-        BadTextCase{"emptyName", file(R"({"CompType": "PL_NMU"})"), "Empty logical instance name"},
-        BadTextCase{"destIdOf13Bits", file(R"({"Name": "x", "CompType": "NPS", "DestId": 4096})"),
-                    "DestId entry is expected to be a 12 bit maximum"},
-        BadTextCase{"negativeDestId", file(R"({"Name": "x", "CompType": "NPS", "DestId": -1})"),
-                    "DestId entry is expected to be a 12 bit maximum"},
-        BadTextCase{"unknownFrom", file(master + "," + slave, R"({"From": "q", "To": "s"})"),
-                    "Path 'from' name is unknown: q"},
-        BadTextCase{"unknownTo", file(master + "," + slave, R"({"From": "m", "To": "t"})"),
-                    "Path 'to' name is unknown: t"},
-        BadTextCase{"wrongType", file(R"({"Name": "x", "IsMaster": 1})"),
-                    "/LogicalInstances/0/IsMaster"},
-        BadTextCase{"negativeBandwidth", file("", R"({}, {"ReadBW": -1})"), "/Paths/1/ReadBW"},
-        BadTextCase{"addressAsBoolean",
-                    file(R"({"SysAddresses": [{"Base": true}]})"),
-                    "/LogicalInstances/0/SysAddresses/0/Base"}),
-    [](const auto& info) { return info.param.name; });
 
 TEST_F(NOCJsonTrafficSpecReaderTest, DestIdIndexOutOfRangeIsReportedAgainstTheSchema)
 {
