@@ -63,22 +63,6 @@ TEST_F(HDARPartReaderTest, MissingDeviceNamesItsFile)
   expectThrows([] { HDARPartReader::readByName("no_such_device"); }, "@90-1@%s", {path});
 }
 
-// A device text that is refused: the message and its arguments after the file name.
-struct BadDevice {
-  const char* name;
-  std::string text;
-  std::string format;
-  std::string pointer;
-  std::string detail;
-};
-
-void PrintTo(const BadDevice& c, std::ostream* out)
-{
-  *out << c.name;
-}
-
-class BadDeviceTest : public MessageLogTest, public ::testing::WithParamInterface<BadDevice> {};
-
 std::string device(const std::string& columns)
 {
   return R"({"device": "d", "shimColumns": [)" + columns + "]}";
@@ -97,64 +81,61 @@ std::string channel(const std::string& bel, int elementId, const std::string& ty
          std::to_string(elementId) + "}";
 }
 
-TEST_P(BadDeviceTest, IsRefusedWithItsNumberAndPlace)
+// A device text that is refused: the message and its arguments after the file name.
+TEST_F(HDARPartReaderTest, BadDeviceTextsAreRefusedWithTheirNumberAndPlace)
 {
-  const BadDevice& c = GetParam();
-  std::istringstream in(c.text);
-  if (c.format == "@90-2@%s%s")
-    expectThrows([&] { HDARPartReader::read(in, "dev.json"); }, c.format, {"dev.json", c.detail});
-  else
-    expectThrows([&] { HDARPartReader::read(in, "dev.json"); }, c.format,
-                 {"dev.json", c.pointer, c.detail});
+  const std::string good = column("QPE_SHIM_X0Y0", 0, channel("S_AXIS0", 0));
+  const struct {
+    const char* name;
+    std::string text;
+    std::string format;
+    std::string pointer;
+    std::string detail;
+  } cases[] = {
+      {"notJson", "{\"device\": ", "@90-2@%s%s", "", "Invalid value. (offset 11)"},
+      {"rootArray", "[]", "@90-30@%s%s%s", "", "an object"},
+      {"noDevice", R"({"shimColumns": []})", "@90-30@%s%s%s", "/device", "present"},
+      {"emptyDevice", R"({"device": "", "shimColumns": []})", "@90-30@%s%s%s",
+       "/device", "a non-empty string"},
+      {"columnsNoArray", R"({"device": "d", "shimColumns": {}})", "@90-30@%s%s%s",
+       "/shimColumns", "an array"},
+      {"columnNoObject", device(good + ", 3"), "@90-30@%s%s%s", "/shimColumns/1", "an object"},
+      {"siteOfThreeUnderscores", device(column("QPE_SHIM_PL_X0Y0", 0, "")),
+       "@90-30@%s%s%s", "/shimColumns/0/site",
+       "a site name of two underscores, three when it begins with QPE_ML"},
+      {"mlSiteOfTwoUnderscores", device(column("QPE_MLSHIM_X0Y0", 0, "")),
+       "@90-30@%s%s%s", "/shimColumns/0/site",
+       "a site name of two underscores, three when it begins with QPE_ML"},
+      {"siteWithSlash", device(column("QPE_SHIM_X0/Y0", 0, "")), "@90-30@%s%s%s",
+       "/shimColumns/0/site", "a name without '/'"},
+      {"unknownRegion", device(column("QPE_SHIM_X0Y0", 0, "", "PL")), "@90-30@%s%s%s",
+       "/shimColumns/0/region", "QPE or QPE_ML"},
+      {"negativeColumn", device(column("QPE_SHIM_X0Y0", -1, "")), "@90-30@%s%s%s",
+       "/shimColumns/0/column", "a non-negative integer"},
+      {"unknownBelType", device(column("QPE_SHIM_X0Y0", 0, channel("S0", 0, "IN"))),
+       "@90-30@%s%s%s", "/shimColumns/0/channels/0/type", "PL_IN, PL_OUT, NOC_IN or NOC_OUT"},
+      {"fractionalElementId",
+       device(R"({"site": "QPE_SHIM_X0Y0", "region": "QPE", "column": 0, "channels":
+                 [{"bel": "S0", "type": "PL_IN", "elementId": 1.5}]})"),
+       "@90-30@%s%s%s", "/shimColumns/0/channels/0/elementId", "a non-negative integer"},
+      {"belWithSlash", device(column("QPE_SHIM_X0Y0", 0, channel("S/0", 0))),
+       "@90-30@%s%s%s", "/shimColumns/0/channels/0/bel", "a name without '/'"},
+      {"siteTwice", device(good + "," + column("QPE_SHIM_X0Y0", 1, "")),
+       "@90-31@%s%s%s", "/shimColumns/1/site", "QPE_SHIM_X0Y0"},
+      {"columnTwice", device(good + "," + column("QPE_ML_SHIM_X0Y0", 0, "", "QPE_ML")),
+       "@90-31@%s%s%s", "/shimColumns/1/column", "0"},
+      {"belTwice", device(column("QPE_SHIM_X0Y0", 0, channel("S0", 0) + "," + channel("S0", 1))),
+       "@90-31@%s%s%s", "/shimColumns/0/channels/1/bel", "S0"},
+      {"elementIdTwice", device(good + "," + column("QPE_SHIM_X1Y0", 1, channel("S_AXIS0", 0))),
+       "@90-31@%s%s%s", "/shimColumns/1/channels/0/elementId", "0"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    std::istringstream in(c.text);
+    std::vector<std::string> args{"dev.json", c.detail};
+    if (c.format != "@90-2@%s%s")
+      args.insert(args.begin() + 1, c.pointer);
+    expectThrows([&] { HDARPartReader::read(in, "dev.json"); }, c.format, args);
+  }
 }
-
-const std::string good = column("QPE_SHIM_X0Y0", 0, channel("S_AXIS0", 0));
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, BadDeviceTest,
-    ::testing::Values(
-        BadDevice{"notJson", "{\"device\": ", "@90-2@%s%s", "",
-                  "Invalid value. (offset 11)"},
-        BadDevice{"rootArray", "[]", "@90-30@%s%s%s", "", "an object"},
-        BadDevice{"noDevice", R"({"shimColumns": []})", "@90-30@%s%s%s", "/device", "present"},
-        BadDevice{"emptyDevice", R"({"device": "", "shimColumns": []})", "@90-30@%s%s%s",
-                  "/device", "a non-empty string"},
-        BadDevice{"columnsNoArray", R"({"device": "d", "shimColumns": {}})", "@90-30@%s%s%s",
-                  "/shimColumns", "an array"},
-        BadDevice{"columnNoObject", device(good + ", 3"), "@90-30@%s%s%s", "/shimColumns/1",
-                  "an object"},
-        BadDevice{"siteOfThreeUnderscores", device(column("QPE_SHIM_PL_X0Y0", 0, "")),
-                  "@90-30@%s%s%s", "/shimColumns/0/site",
-                  "a site name of two underscores, three when it begins with QPE_ML"},
-        BadDevice{"mlSiteOfTwoUnderscores", device(column("QPE_MLSHIM_X0Y0", 0, "")),
-                  "@90-30@%s%s%s", "/shimColumns/0/site",
-                  "a site name of two underscores, three when it begins with QPE_ML"},
-        BadDevice{"siteWithSlash", device(column("QPE_SHIM_X0/Y0", 0, "")), "@90-30@%s%s%s",
-                  "/shimColumns/0/site", "a name without '/'"},
-        BadDevice{"unknownRegion", device(column("QPE_SHIM_X0Y0", 0, "", "PL")), "@90-30@%s%s%s",
-                  "/shimColumns/0/region", "QPE or QPE_ML"},
-        BadDevice{"negativeColumn", device(column("QPE_SHIM_X0Y0", -1, "")), "@90-30@%s%s%s",
-                  "/shimColumns/0/column", "a non-negative integer"},
-        BadDevice{"unknownBelType", device(column("QPE_SHIM_X0Y0", 0, channel("S0", 0, "IN"))),
-                  "@90-30@%s%s%s", "/shimColumns/0/channels/0/type",
-                  "PL_IN, PL_OUT, NOC_IN or NOC_OUT"},
-        BadDevice{"fractionalElementId",
-                  device(R"({"site": "QPE_SHIM_X0Y0", "region": "QPE", "column": 0, "channels":
-                            [{"bel": "S0", "type": "PL_IN", "elementId": 1.5}]})"),
-                  "@90-30@%s%s%s", "/shimColumns/0/channels/0/elementId",
-                  "a non-negative integer"},
-        BadDevice{"belWithSlash", device(column("QPE_SHIM_X0Y0", 0, channel("S/0", 0))),
-                  "@90-30@%s%s%s", "/shimColumns/0/channels/0/bel", "a name without '/'"},
-        BadDevice{"siteTwice", device(good + "," + column("QPE_SHIM_X0Y0", 1, "")),
-                  "@90-31@%s%s%s", "/shimColumns/1/site", "QPE_SHIM_X0Y0"},
-        BadDevice{"columnTwice", device(good + "," + column("QPE_ML_SHIM_X0Y0", 0, "", "QPE_ML")),
-                  "@90-31@%s%s%s", "/shimColumns/1/column", "0"},
-        BadDevice{"belTwice",
-                  device(column("QPE_SHIM_X0Y0", 0, channel("S0", 0) + "," + channel("S0", 1))),
-                  "@90-31@%s%s%s", "/shimColumns/0/channels/1/bel", "S0"},
-        BadDevice{"elementIdTwice",
-                  device(good + "," + column("QPE_SHIM_X1Y0", 1, channel("S_AXIS0", 0))),
-                  "@90-31@%s%s%s", "/shimColumns/1/channels/0/elementId", "0"}),
-    [](const auto& info) { return info.param.name; });
 
 }  // namespace

@@ -35,77 +35,68 @@ ZXLogicalPort* addConnectedPort(ZXLogicalArchModel& model, ZXLogicalArchLInst& i
   return port;
 }
 
-struct NamingCase {
-  ZXLogicalInstanceType kind;
-  bool useAxiPortNames;
-  Connection::Direction direction;
-  ZXLogicalPort::PortType type;
-  std::string first;  // the names of two such ports of one instance; "a" and "b" are kept
-  std::string second;
-};
-
-void PrintTo(const NamingCase& c, std::ostream* out)
-{
-  *out << "kind " << c.kind << (c.useAxiPortNames ? " axi" : "") << " direction " << c.direction
-       << " type " << c.type << " -> " << c.first;
-}
-
-class RenamerNamingTest : public ::testing::TestWithParam<NamingCase> {};
-
-TEST_P(RenamerNamingTest, NamesTwoPortsOfOneFamily)
-{
-  const NamingCase& c = GetParam();
-  ZXLogicalArchModel model;
-  ZXLogicalArchLInst* instance = addInstance(model, c.kind, "i");
-  ZXLogicalPort* a = addConnectedPort(model, *instance, "a", c.type, c.direction);
-  ZXLogicalPort* b = addConnectedPort(model, *instance, "b", c.type, c.direction);
-  model.renameLogicalArchPortNames(c.useAxiPortNames);
-  EXPECT_EQ(a->name, c.first);
-  EXPECT_EQ(b->name, c.second);
-  EXPECT_EQ(instance->getLogicalPort(c.second), b);
-}
-
 const auto S = ZXLogicalPort::STREAM;
 const auto M = ZXLogicalPort::MEM;
 const auto E = ZXLogicalPort::EVENT;
 const auto U = ZXLogicalPort::UNSET_PORT_TYPE;
 
-INSTANTIATE_TEST_SUITE_P(
-    Tables, RenamerNamingTest,
-    ::testing::Values(
-        NamingCase{PL_INSTANCE, false, Connection::UNSET_DIRECTION, U, "port0", "port1"},
-        NamingCase{PL_INSTANCE, true, Connection::PL_TO_ZX, S, "port0", "port1"},
-        NamingCase{NOC_INSTANCE, false, Connection::ZX_TO_NOC, S, "S00_AXIS", "S01_AXIS"},
-        NamingCase{NOC_INSTANCE, false, Connection::ZX_TO_NOC, M, "S00_AXI", "S01_AXI"},
-        NamingCase{NOC_INSTANCE, true, Connection::PL_TO_NOC, S, "S00_AXIS", "S01_AXIS"},
-        NamingCase{NOC_INSTANCE, false, Connection::PL_TO_NOC, M, "S00_AXI", "S01_AXI"},
-        NamingCase{NOC_INSTANCE, false, Connection::NOC_TO_ZX, S, "M00_AXIS", "M01_AXIS"},
-        NamingCase{NOC_INSTANCE, false, Connection::NOC_TO_ZX, M, "M00_AXI", "M01_AXI"},
-        NamingCase{NOC_INSTANCE, false, Connection::NOC_TO_PL, S, "M00_AXIS", "M01_AXIS"},
-        NamingCase{NOC_INSTANCE, true, Connection::NOC_TO_PL, M, "M00_AXI", "M01_AXI"},
-        NamingCase{NOC_INSTANCE, false, Connection::NOC_TO_NOC, S, "a", "b"},
-        NamingCase{NOC_INSTANCE, false, Connection::ZX_TO_PL, M, "a", "b"},
-        NamingCase{NOC_INSTANCE, false, Connection::ZX_TO_NOC, E, "a", "b"},
-        NamingCase{ZX_INSTANCE, false, Connection::ZX_TO_PL, S, "ZX_PL_AXIS_0", "ZX_PL_AXIS_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::ZX_TO_PL, M, "ZX_PL_AXI_0", "ZX_PL_AXI_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::PL_TO_ZX, S, "PL_ZX_AXIS_0", "PL_ZX_AXIS_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::PL_TO_ZX, M, "PL_ZX_AXI_0", "PL_ZX_AXI_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::ZX_TO_NOC, S, "ZX_NOC_AXIS_0", "ZX_NOC_AXIS_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::ZX_TO_NOC, M, "ZX_NOC_AXI_0", "ZX_NOC_AXI_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::NOC_TO_ZX, S, "NOC_ZX_AXIS_0", "NOC_ZX_AXIS_1"},
-        NamingCase{ZX_INSTANCE, false, Connection::NOC_TO_ZX, M, "NOC_ZX_AXI_0", "NOC_ZX_AXI_1"},
-        NamingCase{ZX_INSTANCE, true, Connection::ZX_TO_PL, S, "M00_AXIS", "M01_AXIS"},
-        NamingCase{ZX_INSTANCE, true, Connection::ZX_TO_PL, M, "M00_AXI", "M01_AXI"},
-        NamingCase{ZX_INSTANCE, true, Connection::PL_TO_ZX, S, "S00_AXIS", "S01_AXIS"},
-        NamingCase{ZX_INSTANCE, true, Connection::PL_TO_ZX, M, "S00_AXI", "S01_AXI"},
-        NamingCase{ZX_INSTANCE, true, Connection::ZX_TO_NOC, S, "M00_AXIS", "M01_AXIS"},
-        NamingCase{ZX_INSTANCE, true, Connection::ZX_TO_NOC, M, "M00_AXI", "M01_AXI"},
-        NamingCase{ZX_INSTANCE, true, Connection::NOC_TO_ZX, S, "S00_AXIS", "S01_AXIS"},
-        NamingCase{ZX_INSTANCE, true, Connection::NOC_TO_ZX, M, "S00_AXI", "S01_AXI"},
-        NamingCase{ZX_INSTANCE, true, Connection::PL_TO_PL, S, "a", "b"},
-        NamingCase{ZX_INSTANCE, false, Connection::NOC_TO_PL, M, "a", "b"},
-        NamingCase{ZX_INSTANCE, false, Connection::ZX_TO_PL, E, "a", "b"},
-        NamingCase{ZX_INSTANCE, true, Connection::ZX_TO_NOC, U, "a", "b"}));
+TEST(LogicalArchWriterModelRenamerTest, NamesTwoPortsOfOneFamily)
+{
+  const struct {
+    ZXLogicalInstanceType kind;
+    bool useAxiPortNames;
+    Connection::Direction direction;
+    ZXLogicalPort::PortType type;
+    std::string first;  // the names of two such ports of one instance; "a" and "b" are kept
+    std::string second;
+  } cases[] = {
+      {PL_INSTANCE, false, Connection::UNSET_DIRECTION, U, "port0", "port1"},
+      {PL_INSTANCE, true, Connection::PL_TO_ZX, S, "port0", "port1"},
+      {NOC_INSTANCE, false, Connection::ZX_TO_NOC, S, "S00_AXIS", "S01_AXIS"},
+      {NOC_INSTANCE, false, Connection::ZX_TO_NOC, M, "S00_AXI", "S01_AXI"},
+      {NOC_INSTANCE, true, Connection::PL_TO_NOC, S, "S00_AXIS", "S01_AXIS"},
+      {NOC_INSTANCE, false, Connection::PL_TO_NOC, M, "S00_AXI", "S01_AXI"},
+      {NOC_INSTANCE, false, Connection::NOC_TO_ZX, S, "M00_AXIS", "M01_AXIS"},
+      {NOC_INSTANCE, false, Connection::NOC_TO_ZX, M, "M00_AXI", "M01_AXI"},
+      {NOC_INSTANCE, false, Connection::NOC_TO_PL, S, "M00_AXIS", "M01_AXIS"},
+      {NOC_INSTANCE, true, Connection::NOC_TO_PL, M, "M00_AXI", "M01_AXI"},
+      {NOC_INSTANCE, false, Connection::NOC_TO_NOC, S, "a", "b"},
+      {NOC_INSTANCE, false, Connection::ZX_TO_PL, M, "a", "b"},
+      {NOC_INSTANCE, false, Connection::ZX_TO_NOC, E, "a", "b"},
+      {ZX_INSTANCE, false, Connection::ZX_TO_PL, S, "ZX_PL_AXIS_0", "ZX_PL_AXIS_1"},
+      {ZX_INSTANCE, false, Connection::ZX_TO_PL, M, "ZX_PL_AXI_0", "ZX_PL_AXI_1"},
+      {ZX_INSTANCE, false, Connection::PL_TO_ZX, S, "PL_ZX_AXIS_0", "PL_ZX_AXIS_1"},
+      {ZX_INSTANCE, false, Connection::PL_TO_ZX, M, "PL_ZX_AXI_0", "PL_ZX_AXI_1"},
+      {ZX_INSTANCE, false, Connection::ZX_TO_NOC, S, "ZX_NOC_AXIS_0", "ZX_NOC_AXIS_1"},
+      {ZX_INSTANCE, false, Connection::ZX_TO_NOC, M, "ZX_NOC_AXI_0", "ZX_NOC_AXI_1"},
+      {ZX_INSTANCE, false, Connection::NOC_TO_ZX, S, "NOC_ZX_AXIS_0", "NOC_ZX_AXIS_1"},
+      {ZX_INSTANCE, false, Connection::NOC_TO_ZX, M, "NOC_ZX_AXI_0", "NOC_ZX_AXI_1"},
+      {ZX_INSTANCE, true, Connection::ZX_TO_PL, S, "M00_AXIS", "M01_AXIS"},
+      {ZX_INSTANCE, true, Connection::ZX_TO_PL, M, "M00_AXI", "M01_AXI"},
+      {ZX_INSTANCE, true, Connection::PL_TO_ZX, S, "S00_AXIS", "S01_AXIS"},
+      {ZX_INSTANCE, true, Connection::PL_TO_ZX, M, "S00_AXI", "S01_AXI"},
+      {ZX_INSTANCE, true, Connection::ZX_TO_NOC, S, "M00_AXIS", "M01_AXIS"},
+      {ZX_INSTANCE, true, Connection::ZX_TO_NOC, M, "M00_AXI", "M01_AXI"},
+      {ZX_INSTANCE, true, Connection::NOC_TO_ZX, S, "S00_AXIS", "S01_AXIS"},
+      {ZX_INSTANCE, true, Connection::NOC_TO_ZX, M, "S00_AXI", "S01_AXI"},
+      {ZX_INSTANCE, true, Connection::PL_TO_PL, S, "a", "b"},
+      {ZX_INSTANCE, false, Connection::NOC_TO_PL, M, "a", "b"},
+      {ZX_INSTANCE, false, Connection::ZX_TO_PL, E, "a", "b"},
+      {ZX_INSTANCE, true, Connection::ZX_TO_NOC, U, "a", "b"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE("kind " + std::to_string(c.kind) + (c.useAxiPortNames ? " axi" : "") +
+                 " direction " + std::to_string(c.direction) + " type " +
+                 std::to_string(c.type) + " -> " + c.first);
+    ZXLogicalArchModel model;
+    ZXLogicalArchLInst* instance = addInstance(model, c.kind, "i");
+    ZXLogicalPort* a = addConnectedPort(model, *instance, "a", c.type, c.direction);
+    ZXLogicalPort* b = addConnectedPort(model, *instance, "b", c.type, c.direction);
+    model.renameLogicalArchPortNames(c.useAxiPortNames);
+    EXPECT_EQ(a->name, c.first);
+    EXPECT_EQ(b->name, c.second);
+    EXPECT_EQ(instance->getLogicalPort(c.second), b);
+  }
+}
 
 TEST(LogicalArchWriterModelRenamerTest, SequencesAreSharedOrSeparateByFlagAndHeldPerInstance)
 {
