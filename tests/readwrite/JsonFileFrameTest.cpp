@@ -157,12 +157,4 @@ TEST_F(NOCJsonReadWriteUtilsTest, SchemaPathsLieUnderTheDataDirectoryAndValidate
                {"", "no schema path given"});
 }
 
-TEST_F(NOCJsonReadWriteUtilsTest, PortMessagesAreCriticalWarningsInArgumentOrder)
-{
-  NOC::NOCJsonReadWriteUtils::issueInvalidPortForLogicalSlave("S_AXI", "noc_slave_0");
-  NOC::NOCJsonReadWriteUtils::issueInvalidPortType("M_AXIS");
-  expectSent({{"@73-30@%s%s", ComMsgMgr::CriticalWarning, {"S_AXI", "noc_slave_0"}},
-              {"@73-448@%s", ComMsgMgr::CriticalWarning, {"M_AXIS"}}});
-}
-
 }  // namespace
