@@ -107,6 +107,15 @@ protected:
     return names(list);
   }
 
+  // The bels and the flag that a lookup of `instance` leaves in `bels` and `flag`.
+  std::pair<std::vector<HDDMBel>, bool> placementOf(const TrafficLInst* instance,
+                                                    std::vector<HDDMBel> bels = {},
+                                                    bool flag = false) const
+  {
+    constraints.getPlacementConst(instance, bels, flag);
+    return {bels, flag};
+  }
+
   QPEShimInterfaceConstraints constraints{demo(), {&spec}};
 };
 
@@ -115,17 +124,8 @@ TEST_F(QPEShimInterfaceConstraintsTest, AddKeepsTheFirstPlacementAndGetLeavesAbs
   EXPECT_TRUE(constraints.empty());
   EXPECT_TRUE(constraints.addPlacementConst(a, {bel0, bel1}, true));
   EXPECT_FALSE(constraints.addPlacementConst(a, {bel2}, false));
-  std::vector<HDDMBel> bels;
-  bool flag = false;
-  constraints.getPlacementConst(a, bels, flag);
-  EXPECT_EQ(bels, (std::vector<HDDMBel>{bel0, bel1}));
-  EXPECT_TRUE(flag);
-
-  bels = {bel2};
-  flag = false;
-  constraints.getPlacementConst(b, bels, flag);
-  EXPECT_EQ(bels, std::vector<HDDMBel>{bel2});
-  EXPECT_FALSE(flag);
+  EXPECT_EQ(placementOf(a), std::make_pair(std::vector<HDDMBel>{bel0, bel1}, true));
+  EXPECT_EQ(placementOf(b, {bel2}, true), std::make_pair(std::vector<HDDMBel>{bel2}, true));
 
   EXPECT_TRUE(constraints.hasLogical(bel1));
   EXPECT_FALSE(constraints.hasLogical(bel2));
@@ -156,16 +156,11 @@ TEST_F(QPEShimInterfaceConstraintsTest, MoveHandsThePlacementOnUnlessTheTargetHa
 
   EXPECT_TRUE(constraints.replaceLogicalInstances(a, b));
   EXPECT_EQ(constrained(), (std::vector<std::string>{"b", "c"}));
-  std::vector<HDDMBel> bels;
-  bool flag = false;
-  constraints.getPlacementConst(b, bels, flag);
-  EXPECT_EQ(bels, std::vector<HDDMBel>{bel0});
-  EXPECT_TRUE(flag);
+  EXPECT_EQ(placementOf(b), std::make_pair(std::vector<HDDMBel>{bel0}, true));
 
   EXPECT_TRUE(constraints.movePlacementConst(b, c));
   EXPECT_EQ(constrained(), std::vector<std::string>{"c"}) << "b's placement is lost";
-  constraints.getPlacementConst(c, bels, flag);
-  EXPECT_EQ(bels, std::vector<HDDMBel>{bel2});
+  EXPECT_EQ(placementOf(c), std::make_pair(std::vector<HDDMBel>{bel2}, false));
   EXPECT_FALSE(constraints.hasLogical(bel0));
 }
 
@@ -179,10 +174,7 @@ TEST_F(QPEShimInterfaceConstraintsTest, CopyStopsAtTheFirstInstanceAlreadyHere)
 
   EXPECT_FALSE(constraints.copyFrom(other));
   EXPECT_EQ(constrained(), (std::vector<std::string>{"a", "b"})) << "a added, c never reached";
-  std::vector<HDDMBel> bels;
-  bool flag = false;
-  constraints.getPlacementConst(b, bels, flag);
-  EXPECT_EQ(bels, std::vector<HDDMBel>{bel2});
+  EXPECT_EQ(placementOf(b), std::make_pair(std::vector<HDDMBel>{bel2}, true));
 
   QPEShimInterfaceConstraints fresh(demo(), {});
   EXPECT_TRUE(fresh.copyFrom(other));
