@@ -136,7 +136,6 @@ TEST_F(QPEPLIntfWriterTest, ThePartitionColumnsGiveWayToTheArrayOnlyWhenBothAreU
     const char* expected;
   };
   const Case cases[] = {
-      {-1, -1, 6, 10, "\"startColumn\": 6,\n    \"numColumns\": 10\n"},
       {2, -1, 6, 10, "\"startColumn\": 2,\n    \"numColumns\": -1\n"},
       {-1, 3, 6, 10, "\"startColumn\": -1,\n    \"numColumns\": 3\n"},
       {2, 4, 6, 10, "\"startColumn\": 2,\n    \"numColumns\": 4\n"},

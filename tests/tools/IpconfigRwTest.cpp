@@ -263,9 +263,6 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"colocationCheck", nullptr, "constraints check $E/colocation.json", 0,
                 "constraints $E/colocation.json: 14 constraints (4 node, 10 port, 0 net, 0 "
                 "global), 2 FIFO records (1 DMA, 1 stream)\n"},
-        RunCase{"everyKindCheck", nullptr, "constraints check $E/every_kind.json", 0,
-                "constraints $E/every_kind.json: 21 constraints (8 node, 7 port, 1 net, 5 "
-                "global), 1 FIFO records (1 DMA, 0 stream)\n"},
         RunCase{"groupsDump",
                 R"json({"NodeConstraints": {"n": {"relative_nodes": ["a:(Y=2,X=1)", "b:X=3",
                                                                   "c:(X=z)"]}},
