@@ -243,10 +243,8 @@ TEST_F(ZXLogicalArchFileTest, EmptyModelWritesNothing)
 
 TEST_F(ZXLogicalArchFileTest, DocumentFailingTheSchemaStopsTheTextButStillSucceeds)
 {
-  const TempDir root;
-  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
-  writeFile(root.file("data/parts/tarnel/common/merrow/LogicalArchSchema.json"),
-            R"({"properties": {"device": {"type": "integer"}}})");
+  const ScopedSchema schema("parts/tarnel/common/merrow/LogicalArchSchema.json",
+                            R"({"properties": {"device": {"type": "integer"}}})");
   ZXLogicalArchModel model;
   model.setAppId("a");
   model.setDevice("d");

@@ -219,11 +219,9 @@ TEST_F(NOCJsonConstraintsFileTest, PathFormWritesEmptyFilesAndIgnoresAFailedOpen
 
 TEST_F(NOCJsonConstraintsFileTest, ADocumentThatFailsItsSchemaStopsAtTheFailingValue)
 {
-  const TempDir root;
-  writeFile(root.file("data/parts/tarnel/common/noc/schemas/constraints.json"),
-            R"({"properties": {"Placement": {"items": {"properties": {
+  const ScopedSchema schema("parts/tarnel/common/noc/schemas/constraints.json",
+                            R"({"properties": {"Placement": {"items": {"properties": {
                   "PhysicalInstance": {"maxItems": 1}}}}}})");
-  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
   constraints.addPlacementConst(master, nmus, true);
   std::ostringstream out;
   EXPECT_FALSE(NOC::NOCJsonConstraintsWriter().writeToJsonFile(out, constraints, status));

@@ -282,11 +282,9 @@ TEST_F(ZXCompilerShimConstraintsTest, TheIdentifierIsCanonical)
 
 TEST_F(ZXCompilerShimConstraintsTest, ADocumentThatFailsItsSchemaNamesWhereAndStops)
 {
-  const TempDir root;
-  writeFile(root.file("data/parts/tarnel/common/noc/schemas/constraints.json"),
-            R"({"properties": {"Placement": {"items": {"properties": {
+  const ScopedSchema schema("parts/tarnel/common/noc/schemas/constraints.json",
+                            R"({"properties": {"Placement": {"items": {"properties": {
                   "IsSoft": {"enum": [true]}}}}}})");
-  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
   addBuf();
   std::ostringstream out;
   EXPECT_FALSE(Writer().writeToJsonFile(out, model, spec, solution, demo(), "top/array", status));

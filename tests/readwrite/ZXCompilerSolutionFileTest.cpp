@@ -257,9 +257,7 @@ TEST_F(ZXCompilerSolutionFileTest, WhatCannotBeTiedToTheModelsIsDroppedWithoutAW
 
 TEST_F(ZXCompilerSolutionFileTest, ALooserSchemaLetsValuesOfOtherTypesPassWithoutHarm)
 {
-  const TempDir root;
-  writeFile(root.file("data/parts/tarnel/common/merrow/ZXSolutionSchema.json"), "{}");
-  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
+  const ScopedSchema schema("parts/tarnel/common/merrow/ZXSolutionSchema.json", "{}");
   QPEShimInterfaceSolution back(demo());
   read("[]", back);
   read(R"({"Placement": [1, {"LogicalInstance": 2, "PhysicalInstance": 3},
@@ -309,11 +307,9 @@ TEST_F(ZXCompilerSolutionFileTest, BadFilesAreRefusedWithTheKeyThatBrokeTheSchem
 
 TEST_F(ZXCompilerSolutionFileTest, ADocumentThatFailsItsSchemaNamesWhereAndStops)
 {
-  const TempDir root;
-  writeFile(root.file("data/parts/tarnel/common/merrow/ZXSolutionSchema.json"),
-            R"({"properties": {"Placement": {"items": {"properties": {
+  const ScopedSchema schema("parts/tarnel/common/merrow/ZXSolutionSchema.json",
+                            R"({"properties": {"Placement": {"items": {"properties": {
                   "PhysicalInstance": {"maxItems": 1}}}}}})");
-  const ScopedEnv kvrRoot("KVR_ROOT", root.path().string());
   placeTwoPorts();
   std::ostringstream out;
   EXPECT_FALSE(ZXCompilerSolutionWriterJSON().writeToJsonFile(out, model, spec, solution, demo(),
