@@ -160,6 +160,14 @@ inline std::ostream& operator<<(std::ostream& out, const ExpectedMsg& msg)
   return out;
 }
 
+// A text that a JSON file reader refuses with "@90-2@%s%s": the file's name,
+// then `detail`.
+struct BadText {
+  const char* name;
+  std::string text;
+  std::string detail;
+};
+
 // Starts each test with an empty message log and keeps messages off the console.
 class MessageLogTest : public ::testing::Test {
 protected:

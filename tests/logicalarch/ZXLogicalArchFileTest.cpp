@@ -188,11 +188,7 @@ TEST_F(ZXLogicalArchFileTest, ReadingAddsToTheModelAndSkipsWhatItCannotPlace)
 
 TEST_F(ZXLogicalArchFileTest, BadFilesAreRefusedAndLeaveTheModelAlone)
 {
-  const struct {
-    const char* name;
-    std::string text;
-    std::string detail;
-  } cases[] = {
+  const BadText cases[] = {
       {"malformed", R"({"appId": "a",})", "Missing a name for object member. (offset 14)"},
       {"rootArray", "[]", ""},
       {"appIdNumber", R"({"appId": "a", "device": 1})", "/device"},

@@ -131,11 +131,7 @@ TEST_F(NOCJsonConstraintsFileTest, FilesWithoutPlacementsOrDeviceAddNothing)
 
 TEST_F(NOCJsonConstraintsFileTest, BadTextsAreRefusedBeforeAnythingIsAdded)
 {
-  const struct {
-    const char* name;
-    std::string text;
-    std::string detail;
-  } cases[] = {
+  const BadText cases[] = {
       {"malformed", R"({"Placement": [})", "Invalid value. (offset 15)"},
       {"rootArray", "[]", ""},
       {"placementObject", R"({"Placement": {}})", "/Placement"},

@@ -95,11 +95,7 @@ TEST_F(NOCJsonTrafficSpecReaderTest, ProgressIsReportedUnderTheLockInOrder)
 
 TEST_F(NOCJsonTrafficSpecReaderTest, BadFilesAreRefusedWithTheExactText)
 {
-  const struct {
-    const char* name;
-    std::string text;
-    std::string detail;
-  } cases[] = {
+  const BadText cases[] = {
       {"unknownType", file(R"({"Name": "x", "CompType": "NPS_9"})"),
        "Unknown component type : NPS_9"},
       {"emptyName", file(R"({"CompType": "PL_NMU"})"), "Empty logical instance name"},
