@@ -6,8 +6,10 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
+#include <malloc.h>
 #include <map>
 #include <string>
+#include <vector>
 
 // Times of the library beside its floor, RapidJSON alone on the same text,
 // taken in the same iteration so that both see the same load. Times are the
@@ -29,24 +31,13 @@ double seconds(const Action& action)
   return threadSeconds() - start;
 }
 
-// The summed times of the library and of each of its floors over the runs:
-// the counter of a floor is the library's time over the floor's.
-struct BesideFloors {
-  double library = 0;
-  std::map<std::string, double> floors;
-
-  void report(benchmark::State& state) const
-  {
-    for (const auto& [counter, floor] : floors)
-      state.counters[counter] = library / floor;
-  }
-};
-
 // The peak resident memory of the process from the moment of make, above
-// what was resident then: Linux resets the peak on "5" to clear_refs.
+// what was resident then: the heap first hands its free pages back to the
+// system, as a fresh process has them, so that what a run adds is its own;
+// Linux resets the peak on "5" to clear_refs.
 class PeakMemory {
 public:
-  PeakMemory() : start(status("VmRSS:"))
+  PeakMemory() : start((malloc_trim(0), status("VmRSS:")))
   {
     std::ofstream("/proc/self/clear_refs") << "5";
   }
@@ -76,6 +67,72 @@ private:
   int64_t start;
 };
 
+// A benchmark's body run beside its floors. One untimed pass of the body
+// first runs the library alone for its peak memory per item: the trimmed heap
+// that takes makes a run pay for every page it touches, which the timed
+// passes, the floors' and the library's alike, do not. Each timed pass then
+// sums the library's time and each floor's; the library's is the iteration's,
+// so a benchmark runs under manual time and the floors stay out of it.
+// Counters: peak_bytes_per_item, and for each floor the library's time over
+// the floor's.
+class BesideFloors {
+public:
+  BesideFloors(benchmark::State& state, int64_t items) : state(state), items(items) {}
+
+  template <typename Body>
+  void run(const Body& body)
+  {
+    measuringPeak = true;
+    body();
+    measuringPeak = false;
+    for (auto _ : state)
+      body();
+    for (const auto& [counter, floor] : floors)
+      state.counters[counter] = library / floor;
+  }
+
+  template <typename Action>
+  void floor(const std::string& counter, const Action& action)
+  {
+    if (!measuringPeak)
+      floors[counter] += seconds(action);
+  }
+
+  template <typename Action>
+  void libraryRun(const Action& action)
+  {
+    if (measuringPeak) {
+      const PeakMemory peak;
+      action();
+      peak.report(state, items);
+      return;
+    }
+    const double time = seconds(action);
+    library += time;
+    state.SetIterationTime(time);
+  }
+
+  // Counts the items of each iteration as processed and, at `larger` items,
+  // sets the counter `growth`: the library's mean time there over its mean at
+  // `small` items (linear is larger / small). `means` keeps each size's mean
+  // between runs.
+  void reportGrowth(std::map<int64_t, double>& means, int64_t small, int64_t larger,
+                    const char* growth) const
+  {
+    means[items] = library / static_cast<double>(state.iterations());
+    if (items == larger && means.count(small))
+      state.counters[growth] = means[larger] / means[small];
+    state.SetItemsProcessed(state.iterations() * items);
+  }
+
+private:
+  benchmark::State& state;
+  const int64_t items;
+  bool measuringPeak = false;
+  double library = 0;
+  std::map<std::string, double> floors;
+};
+
 // The sizes of a benchmark: `large` only when IPCONFIG_RW_BENCH_LARGE is set,
 // since one run of it takes many seconds.
 inline void addSizes(benchmark::internal::Benchmark* bench, int64_t small, int64_t medium,
@@ -86,18 +143,11 @@ inline void addSizes(benchmark::internal::Benchmark* bench, int64_t small, int64
     bench->Arg(large);
 }
 
-// Sets the counters from the summed times of both: x_floor, the library's
-// time over the floor's, and, at the size `large`, the library's mean time
-// over its mean at `small` under the name `growth` (linear is large / small).
-// `means` keeps each size's mean between runs.
-inline void reportBesideFloor(benchmark::State& state, std::map<int64_t, double>& means,
-                              double library, double floor, int64_t small, int64_t large,
-                              const char* growth)
+// As above, for a benchmark whose size is several arguments.
+inline void addSizes(benchmark::internal::Benchmark* bench, const std::vector<int64_t>& small,
+                     const std::vector<int64_t>& medium, const std::vector<int64_t>& large)
 {
-  const int64_t count = state.range(0);
-  means[count] = library / static_cast<double>(state.iterations());
-  state.counters["x_floor"] = library / floor;
-  if (count == large && means.count(small))
-    state.counters[growth] = means[large] / means[small];
-  state.SetItemsProcessed(state.iterations() * count);
+  bench->Args(small)->Args(medium);
+  if (std::getenv("IPCONFIG_RW_BENCH_LARGE"))
+    bench->Args(large);
 }

@@ -18,10 +18,12 @@
 #include <string>
 
 // The compiler solution file of one array instance with many two-channel
-// ports, read and written, each timed beside its floor in the same iteration:
-// RapidJSON alone parsing the same text and validating it with the same
-// schema. Counters: x_floor, the library's time over the floor's; x_2k, at
-// 20,000 ports, the library's time over its time at 2,000 (linear is 10).
+// ports, read and written, each timed beside its floors in the same iteration
+// (see BesideFloor.h and ParseAndValidate.h): x_a and x_b beside the read,
+// x_wb beside the write; peak_bytes_per_item, the peak memory of a library
+// run per port; x_2k, at 20,000 ports, the library's time over its time at
+// 2,000 (linear is 10). The 200,000 size runs with IPCONFIG_RW_BENCH_LARGE
+// set.
 namespace {
 
 using namespace IPConfig::Frameworks;
@@ -93,48 +95,50 @@ private:
   }
 };
 
-// Runs `action` on the design of state.range(0) ports in each iteration,
-// beside the floor on the design's text.
-template <typename Action>
-void timeBesideFloor(benchmark::State& state, std::map<int64_t, double>& means,
-                     const Action& action)
+std::string schemaPath()
 {
-  ComMsgMgr::setConsole(nullptr);
-  Design design(static_cast<int>(state.range(0)));
-  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getZXSolutionJsonSchemaFile();
-  double library = 0;
-  double floor = 0;
-  for (auto _ : state) {
-    floor += seconds([&] { parseAndValidate(design.text, schemaPath); });
-    const double time = seconds([&] { action(design); });
-    library += time;
-    state.SetIterationTime(time);
-  }
-  reportBesideFloor(state, means, library, floor, 2000, 20000, "x_2k");
+  return NOC::NOCJsonReadWriteUtils::getZXSolutionJsonSchemaFile();
+}
+
+void addPortSizes(benchmark::internal::Benchmark* bench)
+{
+  addSizes(bench, 2000, 20000, 200000);
 }
 
 void BM_CompilerSolutionRead(benchmark::State& state)
 {
+  ComMsgMgr::setConsole(nullptr);
+  Design design(static_cast<int>(state.range(0)));
   static std::map<int64_t, double> means;
-  timeBesideFloor(state, means, [](Design& design) {
+  BesideFloors runs(state, state.range(0));
+  runs.run([&] {
+    readFloors(runs, design.text, schemaPath());
     QPEShimInterfaceSolution read(*design.part);
-    design.read(read);
+    runs.libraryRun([&] { design.read(read); });
   });
+  runs.reportGrowth(means, 2000, 20000, "x_2k");
 }
 BENCHMARK(BM_CompilerSolutionRead)
-    ->Arg(2000)
-    ->Arg(20000)
+    ->Apply(addPortSizes)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
 void BM_CompilerSolutionWrite(benchmark::State& state)
 {
+  ComMsgMgr::setConsole(nullptr);
+  Design design(static_cast<int>(state.range(0)));
+  JDocument written;
+  written.Parse(design.text.c_str(), design.text.size());
   static std::map<int64_t, double> means;
-  timeBesideFloor(state, means, [](Design& design) { design.write(); });
+  BesideFloors runs(state, state.range(0));
+  runs.run([&] {
+    writeFloor(runs, written, schemaPath());
+    runs.libraryRun([&] { design.write(); });
+  });
+  runs.reportGrowth(means, 2000, 20000, "x_2k");
 }
 BENCHMARK(BM_CompilerSolutionWrite)
-    ->Arg(2000)
-    ->Arg(20000)
+    ->Apply(addPortSizes)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 

@@ -91,36 +91,20 @@ public:
   const std::string text;
 };
 
-void report(benchmark::State& state, std::map<int64_t, double>& means,
-            const BesideFloors& times)
-{
-  times.report(state);
-  reportBesideFloor(state, means, times.library, times.floors.at("x_b"), 10000, 100000,
-                    "x_10k");
-}
-
 void BM_ConstrFileRead(benchmark::State& state)
 {
   ComMsgMgr::setConsole(nullptr);
   const GeneratedFile file(static_cast<int>(state.range(0)));
   const std::string schemaPath = SchemaFile::getConstraintsSchema();
   static std::map<int64_t, double> means;
-  BesideFloors times;
-  for (auto _ : state) {
-    times.floors["x_a"] += seconds([&] {
-      JDocument document;
-      benchmark::DoNotOptimize(parseText(file.text, document));
-    });
-    times.floors["x_b"] += seconds([&] { parseAndValidate(file.text, schemaPath); });
-    const PeakMemory peak;
+  BesideFloors runs(state, state.range(0));
+  runs.run([&] {
+    readFloors(runs, file.text, schemaPath);
     ConstrHandler handler;
-    const double read = seconds([&] { handler.read(file.path()); });
-    peak.report(state, state.range(0));
+    runs.libraryRun([&] { handler.read(file.path()); });
     handler.clear();
-    times.library += read;
-    state.SetIterationTime(read);
-  }
-  report(state, means, times);
+  });
+  runs.reportGrowth(means, 10000, 100000, "x_10k");
 }
 BENCHMARK(BM_ConstrFileRead)
     ->Apply([](benchmark::internal::Benchmark* bench) { addSizes(bench, 10000, 100000, 1000000); })
@@ -161,22 +145,16 @@ void BM_ConstrFileWrite(benchmark::State& state)
     written.ParseStream(wrapper);
   }
   static std::map<int64_t, double> means;
-  BesideFloors times;
-  for (auto _ : state) {
-    times.floors["x_wb"] += seconds([&] {
+  BesideFloors runs(state, state.range(0));
+  runs.run([&] {
+    runs.floor("x_wb", [&] {
       std::ofstream out(file.output());
       validateAndPrettyPrint(written, out, schemaPath, rapidjson::kFormatSingleLineArray);
     });
-    const PeakMemory peak;
-    const double write = seconds([&] { handler.write(file.output()); });
-    peak.report(state, state.range(0));
-    times.library += write;
-    state.SetIterationTime(write);
+    runs.libraryRun([&] { handler.write(file.output()); });
     ComMsgLog::clear();
-  }
-  times.report(state);
-  reportBesideFloor(state, means, times.library, times.floors.at("x_wb"), 10000, 100000,
-                    "x_10k");
+  });
+  runs.reportGrowth(means, 10000, 100000, "x_10k");
 }
 BENCHMARK(BM_ConstrFileWrite)
     ->Apply([](benchmark::internal::Benchmark* bench) { addSizes(bench, 10000, 100000, 1000000); })

@@ -11,6 +11,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -71,46 +72,62 @@ void BM_LogicalArchParseAndValidate(benchmark::State& state)
 }
 BENCHMARK(BM_LogicalArchParseAndValidate)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
 
-// Beside its floors in the same iteration (see BesideFloor.h): x_a, x_b.
+// The reader and the writer beside their floors in the same iteration (see
+// BesideFloor.h and ParseAndValidate.h): x_a and x_b beside the read, x_wb
+// beside the write; peak_bytes_per_item, the peak memory of a library run per
+// port; x_20k, at 200k ports, the library's time over its time at 20k (linear
+// is 10). The 2M size runs with IPCONFIG_RW_BENCH_LARGE set.
+void addPortSizes(benchmark::internal::Benchmark* bench)
+{
+  addSizes(bench, 20000, 200000, 2000000);
+}
+
 void BM_LogicalArchRead(benchmark::State& state)
 {
   const std::string text = makeLogicalArch(state.range(0));
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile();
   HDGUIStatus status;
-  BesideFloors times;
-  for (auto _ : state) {
-    times.floors["x_a"] += seconds([&] {
-      JDocument document;
-      benchmark::DoNotOptimize(parseText(text, document));
-    });
-    times.floors["x_b"] += seconds([&] { parseAndValidate(text, schemaPath); });
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, state.range(0));
+  runs.run([&] {
+    readFloors(runs, text, schemaPath);
     std::istringstream in(text);
     ZXLogicalArchModel model;
-    const PeakMemory peak;
-    times.library += seconds(
-        [&] { ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model, status); });
-    peak.report(state, state.range(0));
+    runs.libraryRun([&] {
+      ZXLogicalArchReader().readFromJsonFile(in, "bench.json", model, status);
+    });
     benchmark::DoNotOptimize(model.isEmpty());
-  }
-  times.report(state);
-  setCounters(state);
+  });
+  runs.reportGrowth(means, 20000, 200000, "x_20k");
 }
 BENCHMARK(BM_LogicalArchRead)
-    ->Apply([](benchmark::internal::Benchmark* bench) { addSizes(bench, 20000, 200000, 2000000); })
+    ->Apply(addPortSizes)
+    ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
 void BM_LogicalArchWrite(benchmark::State& state)
 {
   ZXLogicalArchModel model;
   readModel(state.range(0), model);
-  for (auto _ : state) {
+  std::ostringstream first;
+  ZXLogicalArchWriter().writeToJsonFile(first, model);
+  JDocument written;
+  written.Parse(first.str().c_str());
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile();
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, state.range(0));
+  runs.run([&] {
+    writeFloor(runs, written, schemaPath);
     std::ostringstream out;
-    ZXLogicalArchWriter().writeToJsonFile(out, model);
+    runs.libraryRun([&] { ZXLogicalArchWriter().writeToJsonFile(out, model); });
     benchmark::DoNotOptimize(out.tellp());
-  }
-  setCounters(state);
+  });
+  runs.reportGrowth(means, 20000, 200000, "x_20k");
 }
-BENCHMARK(BM_LogicalArchWrite)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LogicalArchWrite)
+    ->Apply(addPortSizes)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 void BM_LogicalArchDot(benchmark::State& state)
 {

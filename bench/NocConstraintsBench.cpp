@@ -7,13 +7,21 @@
 #include "NOCModel.h"
 #include "TrafficSpec.h"
 
+#include "BesideFloor.h"
 #include "ParseAndValidate.h"
 
 #include <benchmark/benchmark.h>
 
+#include <map>
 #include <sstream>
 #include <string>
 
+// The NoC constraints file read and written, each timed beside its floors in
+// the same iteration (see BesideFloor.h and ParseAndValidate.h): x_a and x_b
+// beside the read, x_wb beside the write; peak_bytes_per_item, the peak
+// memory of a library run per pinned component; x_10k, at 100k components,
+// the library's time over its time at 10k (linear is 10). The 1M size runs
+// with IPCONFIG_RW_BENCH_LARGE set.
 namespace {
 
 namespace Defs = DevHrdIP::Definitions;
@@ -59,9 +67,9 @@ private:
   DevHrdIP::HIPDevice device{&model};
 };
 
-void setCounters(benchmark::State& state)
+int64_t components(const benchmark::State& state)
 {
-  state.SetItemsProcessed(state.iterations() * state.range(0) * state.range(1));
+  return state.range(0) * state.range(1);
 }
 
 void BM_NocConstraintsParseAndValidate(benchmark::State& state)
@@ -70,18 +78,22 @@ void BM_NocConstraintsParseAndValidate(benchmark::State& state)
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getConstraintsJsonSchemaFile();
   for (auto _ : state)
     benchmark::DoNotOptimize(parseAndValidate(design.text, schemaPath));
-  setCounters(state);
+  state.SetItemsProcessed(state.iterations() * components(state));
 }
 
 void BM_NocConstraintsRead(benchmark::State& state)
 {
   const Design design(state.range(0), state.range(1));
-  for (auto _ : state) {
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getConstraintsJsonSchemaFile();
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, components(state));
+  runs.run([&] {
+    readFloors(runs, design.text, schemaPath);
     HrdIPToolCntr::Constraints constraints;
-    design.read(constraints);
+    runs.libraryRun([&] { design.read(constraints); });
     benchmark::DoNotOptimize(constraints.hasInstsWithDestIdConstraint());
-  }
-  setCounters(state);
+  });
+  runs.reportGrowth(means, 10000, 100000, "x_10k");
 }
 
 void BM_NocConstraintsWrite(benchmark::State& state)
@@ -90,18 +102,47 @@ void BM_NocConstraintsWrite(benchmark::State& state)
   HrdIPToolCntr::Constraints constraints;
   design.read(constraints);
   HDGUIStatus status;
-  for (auto _ : state) {
+  std::ostringstream first;
+  NOC::NOCJsonConstraintsWriter().writeToJsonFile(first, constraints, status);
+  JDocument written;
+  written.Parse(first.str().c_str());
+  const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getConstraintsJsonSchemaFile();
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, components(state));
+  runs.run([&] {
+    writeFloor(runs, written, schemaPath);
     std::ostringstream out;
-    benchmark::DoNotOptimize(NOC::NOCJsonConstraintsWriter().writeToJsonFile(out, constraints,
-                                                                             status));
-  }
-  setCounters(state);
+    runs.libraryRun([&] {
+      benchmark::DoNotOptimize(
+          NOC::NOCJsonConstraintsWriter().writeToJsonFile(out, constraints, status));
+    });
+  });
+  runs.reportGrowth(means, 10000, 100000, "x_10k");
 }
 
-// Many placements, and one placement of many components.
-#define NOC_CONSTRAINTS_SIZES ->Args({10000, 2})->Args({100000, 2})->Args({1, 100000})
-BENCHMARK(BM_NocConstraintsParseAndValidate) NOC_CONSTRAINTS_SIZES->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_NocConstraintsRead) NOC_CONSTRAINTS_SIZES->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_NocConstraintsWrite) NOC_CONSTRAINTS_SIZES->Unit(benchmark::kMillisecond);
+// Many placements of two components each: 10k, 100k and 1M components.
+void addPlacementSizes(benchmark::internal::Benchmark* bench)
+{
+  addSizes(bench, {5000, 2}, {50000, 2}, {500000, 2});
+}
+
+BENCHMARK(BM_NocConstraintsParseAndValidate)
+    ->Apply(addPlacementSizes)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_NocConstraintsRead)
+    ->Apply(addPlacementSizes)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_NocConstraintsWrite)
+    ->Apply(addPlacementSizes)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// The worst case: one placement of all the components.
+BENCHMARK(BM_NocConstraintsRead)
+    ->Args({1, 10000})
+    ->Args({1, 100000})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

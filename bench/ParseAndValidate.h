@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BesideFloor.h"
 #include "ForwardingHandler.h"
 #include "HCRapidJsonReadWriteUtils.h"
 
@@ -11,6 +12,7 @@
 #include <fstream>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <string>
 
 // The schema at `schemaPath`, read and compiled anew as every reader and
@@ -62,4 +64,47 @@ inline bool validateAndPrettyPrint(
   out.write(text.GetString(), static_cast<std::streamsize>(text.GetSize()));
   out.flush();
   return valid;
+}
+
+// Floor `w` of a writer whose file has no schema: RapidJSON alone
+// pretty-prints `document` as the library's files are, into memory, and hands
+// the text to `out` in one block.
+inline bool prettyPrint(const JDocument& document, std::ostream& out)
+{
+  rapidjson::StringBuffer text;
+  rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(text);
+  writer.SetIndent(' ', 2);
+  const bool written = document.Accept(writer);
+  out.write(text.GetString(), static_cast<std::streamsize>(text.GetSize()));
+  out.flush();
+  return written;
+}
+
+// A reader's floor `a` on `text` beside the library, under x_a.
+inline void parseFloor(BesideFloors& runs, const std::string& text)
+{
+  runs.floor("x_a", [&] {
+    JDocument document;
+    benchmark::DoNotOptimize(parseText(text, document));
+  });
+}
+
+// A reader's floors `a` and `b` on `text` beside the library, under x_a and
+// x_b.
+inline void readFloors(BesideFloors& runs, const std::string& text, const std::string& schemaPath)
+{
+  parseFloor(runs, text);
+  runs.floor("x_b", [&] { benchmark::DoNotOptimize(parseAndValidate(text, schemaPath)); });
+}
+
+// A writer's floor `wb` on the document it writes, into memory, beside the
+// library, under x_wb.
+inline void writeFloor(BesideFloors& runs, const JDocument& document,
+                       const std::string& schemaPath,
+                       rapidjson::PrettyFormatOptions formatOptions = rapidjson::kFormatDefault)
+{
+  runs.floor("x_wb", [&] {
+    std::ostringstream out;
+    benchmark::DoNotOptimize(validateAndPrettyPrint(document, out, schemaPath, formatOptions));
+  });
 }

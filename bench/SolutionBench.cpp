@@ -7,14 +7,21 @@
 #include "NOCModel.h"
 #include "TrafficSpec.h"
 
+#include "BesideFloor.h"
 #include "ParseAndValidate.h"
 
 #include <benchmark/benchmark.h>
 
-#include <ctime>
+#include <map>
 #include <sstream>
 #include <string>
 
+// The NoC solution file read and written, each timed beside its floors in the
+// same iteration (see BesideFloor.h and ParseAndValidate.h): x_a and x_b
+// beside the read, x_wb beside the write; peak_bytes_per_item, the peak
+// memory of a library run per path; x_5k, at 50k paths, the library's time
+// over its time at 5k (linear is 10). The 500k size runs with
+// IPCONFIG_RW_BENCH_LARGE set.
 namespace {
 
 using namespace HrdIPToolCntr;
@@ -88,14 +95,10 @@ std::string makeSolution(int ends, int paths)
   return text.str();
 }
 
-// Processor seconds that `run` takes: the machine is shared, and wall time
-// would count the others' work too.
-template <typename Run>
-double cpuSeconds(const Run& run)
+// Masters and slaves, and paths: 5k, 50k and 500k paths.
+void addPathSizes(benchmark::internal::Benchmark* bench)
 {
-  const std::clock_t start = std::clock();
-  run();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+  addSizes(bench, {500, 5000}, {2500, 50000}, {12500, 500000});
 }
 
 void BM_SolutionParseAndValidate(benchmark::State& state)
@@ -106,13 +109,8 @@ void BM_SolutionParseAndValidate(benchmark::State& state)
     benchmark::DoNotOptimize(parseAndValidate(text, schemaPath));
   state.SetItemsProcessed(state.iterations() * state.range(1));
 }
-BENCHMARK(BM_SolutionParseAndValidate)
-    ->Args({500, 5000})
-    ->Args({2500, 50000})
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SolutionParseAndValidate)->Apply(addPathSizes)->Unit(benchmark::kMillisecond);
 
-// "ratio": the reader's processor time over that of parsing and validating
-// the same text, measured in turns.
 void BM_SolutionRead(benchmark::State& state)
 {
   const Design design(state.range(0), state.range(1));
@@ -120,27 +118,24 @@ void BM_SolutionRead(benchmark::State& state)
   const std::string text = makeSolution(state.range(0), state.range(1));
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getSolutionJsonSchemaFile();
   HDGUIStatus status;
-  double readSeconds = 0;
-  double floorSeconds = 0;
-  for (auto _ : state) {
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, state.range(1));
+  runs.run([&] {
+    readFloors(runs, text, schemaPath);
     std::istringstream in(text);
     CompRes result(&device);
-    readSeconds += cpuSeconds([&] {
+    runs.libraryRun([&] {
       NOC::NOCJsonSolutionReader().readFromJsonFile(in, "bench.json", design.spec, result, status);
     });
     benchmark::DoNotOptimize(result.routes.size());
-    state.PauseTiming();
-    floorSeconds +=
-        cpuSeconds([&] { benchmark::DoNotOptimize(parseAndValidate(text, schemaPath)); });
-    state.ResumeTiming();
-  }
-  state.SetItemsProcessed(state.iterations() * state.range(1));
-  state.counters["ratio"] = readSeconds / floorSeconds;
+  });
+  runs.reportGrowth(means, 5000, 50000, "x_5k");
 }
-BENCHMARK(BM_SolutionRead)->Args({500, 5000})->Args({2500, 50000})->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SolutionRead)
+    ->Apply(addPathSizes)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
-// "ratio": the writer's processor time over that of validating and
-// pretty-printing the document it writes, measured in turns.
 void BM_SolutionWrite(benchmark::State& state)
 {
   const Design design(state.range(0), state.range(1));
@@ -149,28 +144,26 @@ void BM_SolutionWrite(benchmark::State& state)
   CompRes result(&device);
   std::istringstream in(makeSolution(state.range(0), state.range(1)));
   NOC::NOCJsonSolutionReader().readFromJsonFile(in, "bench.json", design.spec, result, status);
-  std::ostringstream written;
-  NOC::NOCJsonSolutionWriter().writeToJsonFile(written, design.spec, result, status, true);
-  JDocument document;
-  document.Parse(written.str().c_str());
+  std::ostringstream first;
+  NOC::NOCJsonSolutionWriter().writeToJsonFile(first, design.spec, result, status, true);
+  JDocument written;
+  written.Parse(first.str().c_str());
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getSolutionJsonSchemaFile();
-  double writeSeconds = 0;
-  double floorSeconds = 0;
-  for (auto _ : state) {
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, state.range(1));
+  runs.run([&] {
+    writeFloor(runs, written, schemaPath);
     std::ostringstream out;
-    writeSeconds += cpuSeconds([&] {
+    runs.libraryRun([&] {
       NOC::NOCJsonSolutionWriter().writeToJsonFile(out, design.spec, result, status, true);
     });
     benchmark::DoNotOptimize(out.tellp());
-    state.PauseTiming();
-    std::ostringstream floorOut;
-    floorSeconds += cpuSeconds(
-        [&] { benchmark::DoNotOptimize(validateAndPrettyPrint(document, floorOut, schemaPath)); });
-    state.ResumeTiming();
-  }
-  state.SetItemsProcessed(state.iterations() * state.range(1));
-  state.counters["ratio"] = writeSeconds / floorSeconds;
+  });
+  runs.reportGrowth(means, 5000, 50000, "x_5k");
 }
-BENCHMARK(BM_SolutionWrite)->Args({500, 5000})->Args({2500, 50000})->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SolutionWrite)
+    ->Apply(addPathSizes)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -9,7 +9,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <map>
 #include <sstream>
 #include <string>
@@ -51,9 +50,15 @@ std::string makeTraffic(int instances, int paths)
   return text.str();
 }
 
-void setCounters(benchmark::State& state)
+int64_t items(const benchmark::State& state)
 {
-  state.SetItemsProcessed(state.iterations() * (state.range(0) + state.range(1)));
+  return state.range(0) + state.range(1);
+}
+
+// Instances and paths: 5.5k, 55k and 550k of them.
+void addTrafficSizes(benchmark::internal::Benchmark* bench)
+{
+  addSizes(bench, {500, 5000}, {5000, 50000}, {50000, 500000});
 }
 
 void BM_TrafficParseAndValidate(benchmark::State& state)
@@ -62,49 +67,39 @@ void BM_TrafficParseAndValidate(benchmark::State& state)
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
   for (auto _ : state)
     benchmark::DoNotOptimize(parseAndValidate(text, schemaPath));
-  setCounters(state);
+  state.SetItemsProcessed(state.iterations() * items(state));
 }
-BENCHMARK(BM_TrafficParseAndValidate)
-    ->Args({500, 5000})
-    ->Args({5000, 50000})
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TrafficParseAndValidate)->Apply(addTrafficSizes)->Unit(benchmark::kMillisecond);
 
-// Beside its floors in the same iteration (see BesideFloor.h): x_a, x_b.
+// The reader and the writer beside their floors in the same iteration (see
+// BesideFloor.h and ParseAndValidate.h): x_a and x_b beside the read, x_wb
+// beside the write; peak_bytes_per_item, the peak memory of a library run per
+// instance or path; x_5k, at 50,000 paths, the library's time over its time
+// at 5,000 (linear is 10). The 500,000 size runs with IPCONFIG_RW_BENCH_LARGE
+// set.
 void BM_TrafficRead(benchmark::State& state)
 {
   const std::string text = makeTraffic(state.range(0), state.range(1));
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
   HDGUIStatus status;
-  BesideFloors times;
-  for (auto _ : state) {
-    times.floors["x_a"] += seconds([&] {
-      JDocument document;
-      benchmark::DoNotOptimize(parseText(text, document));
-    });
-    times.floors["x_b"] += seconds([&] { parseAndValidate(text, schemaPath); });
+  static std::map<int64_t, double> means;
+  BesideFloors runs(state, items(state));
+  runs.run([&] {
+    readFloors(runs, text, schemaPath);
     std::istringstream in(text);
     HrdIPToolCntr::TrafficSpec spec;
-    const PeakMemory peak;
-    times.library += seconds(
-        [&] { NOC::NOCJsonTrafficSpecReader().readFromJsonFile(in, "bench.json", spec, status); });
-    peak.report(state, state.range(0) + state.range(1));
+    runs.libraryRun([&] {
+      NOC::NOCJsonTrafficSpecReader().readFromJsonFile(in, "bench.json", spec, status);
+    });
     benchmark::DoNotOptimize(spec.getNumPaths());
-  }
-  times.report(state);
-  setCounters(state);
+  });
+  runs.reportGrowth(means, 5500, 55000, "x_5k");
 }
 BENCHMARK(BM_TrafficRead)
-    ->Args({500, 5000})
-    ->Args({5000, 50000})
-    ->Apply([](benchmark::internal::Benchmark* bench) {
-      if (std::getenv("IPCONFIG_RW_BENCH_LARGE"))
-        bench->Args({50000, 500000});
-    })
+    ->Apply(addTrafficSizes)
+    ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
-// The writer beside its floor `wb` in the same iteration (see BesideFloor.h).
-// Counters: x_floor, the writer's time over the floor's; x_5k, at 50,000
-// paths, the writer's time over its time at 5,000 (linear is 10).
 void BM_TrafficWrite(benchmark::State& state)
 {
   HDGUIStatus status;
@@ -116,32 +111,19 @@ void BM_TrafficWrite(benchmark::State& state)
   JDocument written;
   written.Parse(first.str().c_str());
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
-
   static std::map<int64_t, double> means;
-  double library = 0;
-  double floor = 0;
-  for (auto _ : state) {
-    floor += seconds([&] {
-      std::ostringstream out;
-      benchmark::DoNotOptimize(validateAndPrettyPrint(written, out, schemaPath));
-    });
-    const double write = seconds([&] {
-      std::ostringstream out;
+  BesideFloors runs(state, items(state));
+  runs.run([&] {
+    writeFloor(runs, written, schemaPath);
+    std::ostringstream out;
+    runs.libraryRun([&] {
       benchmark::DoNotOptimize(NOC::NOCJsonTrafficSpecWriter().writeToJsonFile(out, spec, status));
     });
-    library += write;
-    state.SetIterationTime(write);
-  }
-  const int64_t paths = state.range(1);
-  means[paths] = library / static_cast<double>(state.iterations());
-  state.counters["x_floor"] = library / floor;
-  if (paths == 50000 && means.count(5000))
-    state.counters["x_5k"] = means[50000] / means[5000];
-  setCounters(state);
+  });
+  runs.reportGrowth(means, 5500, 55000, "x_5k");
 }
 BENCHMARK(BM_TrafficWrite)
-    ->Args({500, 5000})
-    ->Args({5000, 50000})
+    ->Apply(addTrafficSizes)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
