@@ -109,10 +109,8 @@ void BM_LogicalArchWrite(benchmark::State& state)
 {
   ZXLogicalArchModel model;
   readModel(state.range(0), model);
-  std::ostringstream first;
-  ZXLogicalArchWriter().writeToJsonFile(first, model);
-  JDocument written;
-  written.Parse(first.str().c_str());
+  const JDocument written = writtenDocument(
+      [&](std::ostream& out) { ZXLogicalArchWriter().writeToJsonFile(out, model); });
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getLogicalArchJsonSchemaFile();
   static std::map<int64_t, double> means;
   BesideFloors runs(state, state.range(0));

@@ -102,10 +102,9 @@ void BM_NocConstraintsWrite(benchmark::State& state)
   HrdIPToolCntr::Constraints constraints;
   design.read(constraints);
   HDGUIStatus status;
-  std::ostringstream first;
-  NOC::NOCJsonConstraintsWriter().writeToJsonFile(first, constraints, status);
-  JDocument written;
-  written.Parse(first.str().c_str());
+  const JDocument written = writtenDocument([&](std::ostream& out) {
+    NOC::NOCJsonConstraintsWriter().writeToJsonFile(out, constraints, status);
+  });
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getConstraintsJsonSchemaFile();
   static std::map<int64_t, double> means;
   BesideFloors runs(state, components(state));

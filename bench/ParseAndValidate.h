@@ -97,6 +97,18 @@ inline void readFloors(BesideFloors& runs, const std::string& text, const std::s
   runs.floor("x_b", [&] { benchmark::DoNotOptimize(parseAndValidate(text, schemaPath)); });
 }
 
+// What `write` writes to the stream it is given, parsed: the document of a
+// writer's floor.
+template <typename Write>
+JDocument writtenDocument(const Write& write)
+{
+  std::ostringstream out;
+  write(out);
+  JDocument document;
+  document.Parse(out.str().c_str());
+  return document;
+}
+
 // A writer's floor `wb` on the document it writes, into memory, beside the
 // library, under x_wb.
 inline void writeFloor(BesideFloors& runs, const JDocument& document,

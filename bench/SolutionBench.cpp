@@ -144,10 +144,9 @@ void BM_SolutionWrite(benchmark::State& state)
   CompRes result(&device);
   std::istringstream in(makeSolution(state.range(0), state.range(1)));
   NOC::NOCJsonSolutionReader().readFromJsonFile(in, "bench.json", design.spec, result, status);
-  std::ostringstream first;
-  NOC::NOCJsonSolutionWriter().writeToJsonFile(first, design.spec, result, status, true);
-  JDocument written;
-  written.Parse(first.str().c_str());
+  const JDocument written = writtenDocument([&](std::ostream& out) {
+    NOC::NOCJsonSolutionWriter().writeToJsonFile(out, design.spec, result, status, true);
+  });
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getSolutionJsonSchemaFile();
   static std::map<int64_t, double> means;
   BesideFloors runs(state, state.range(1));

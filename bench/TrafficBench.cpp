@@ -106,10 +106,9 @@ void BM_TrafficWrite(benchmark::State& state)
   HrdIPToolCntr::TrafficSpec spec;
   std::istringstream in(makeTraffic(state.range(0), state.range(1)));
   NOC::NOCJsonTrafficSpecReader().readFromJsonFile(in, "bench.json", spec, status);
-  std::ostringstream first;
-  NOC::NOCJsonTrafficSpecWriter().writeToJsonFile(first, spec, status);
-  JDocument written;
-  written.Parse(first.str().c_str());
+  const JDocument written = writtenDocument([&](std::ostream& out) {
+    NOC::NOCJsonTrafficSpecWriter().writeToJsonFile(out, spec, status);
+  });
   const std::string schemaPath = NOC::NOCJsonReadWriteUtils::getTrafficJsonSchemaFile();
   static std::map<int64_t, double> means;
   BesideFloors runs(state, items(state));
