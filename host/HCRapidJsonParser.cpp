@@ -87,19 +87,19 @@ constexpr std::size_t readBlock = std::size_t{1} << 16;
 // time: a decompressing stream decompresses into the text as it goes.
 void readAll(std::istream& in, std::string& text)
 {
-  constexpr std::size_t block = readBlock;
   text.clear();
-  // A file or string stream tells how much is left; the text then grows once.
+  // A string stream tells how much is left, a plain file its size to
+  // parseJsonFile: either way the text then grows once.
   const std::streamsize left = in.rdbuf() ? in.rdbuf()->in_avail() : 0;
   if (left > 0)
-    text.reserve(static_cast<std::size_t>(left) + block);
+    text.reserve(static_cast<std::size_t>(left) + readBlock);
   std::size_t size = 0;
   for (;;) {
-    text.resize(size + block);
-    in.read(&text[size], static_cast<std::streamsize>(block));
+    text.resize(size + readBlock);
+    in.read(&text[size], static_cast<std::streamsize>(readBlock));
     const auto got = static_cast<std::size_t>(in.gcount());
     size += got;
-    if (got < block)
+    if (got < readBlock)
       break;
   }
   text.resize(size);
